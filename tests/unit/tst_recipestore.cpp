@@ -1,0 +1,148 @@
+#include "DiaryEntry.h"
+#include "ExampleData.h"
+#include "RecipeStore.h"
+#include "StdoutCapture.h"
+#include "StoreFixture.h"
+
+#include <QJsonDocument>
+#include <QRandomGenerator>
+#include <QTest>
+
+using namespace nutrika;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+RecipeItem meal(qint64 id, const QString &name, qint64 servings = 1)
+{
+    return {name, id, {example::exampleTrackedNutrient1()}, servings};
+}
+
+QStringList names(const QList<RecipeItem> &recipes)
+{
+    QStringList result;
+    for (const RecipeItem &r : recipes)
+        result << QStringLiteral("%1:%2").arg(r.id).arg(r.name);
+    return result;
+}
+
+QByteArray nested(int depth)
+{
+    return QByteArray(depth, '[') + QByteArray(depth, ']');
+}
+
+QByteArray randomBytes(int size)
+{
+    QByteArray bytes(size, Qt::Uninitialized);
+    QRandomGenerator gen(42);
+    for (char &c : bytes)
+        c = char(gen.bounded(256));
+    return bytes;
+}
+
+QByteArray storedMealWith(const char *key, const QJsonValue &value)
+{
+    QJsonObject json = meal(0, QStringLiteral("Soup")).toJson();
+    json.insert(QLatin1String(key), value);
+    return QJsonDocument(QJsonArray{json}).toJson(QJsonDocument::Compact);
+}
+} // namespace
+
+class RecipeStoreTest : public QObject
+{
+    Q_OBJECT
+    StoreFixture m_store;
+
+private slots:
+    void init() { StoreFixture::clear(); }
+
+    void emptyStoreThenFirstMeal()
+    {
+        QVERIFY(getRecipes().isEmpty());
+        saveRecipe(meal(0, QStringLiteral("Porridge")));
+        QCOMPARE(names(getRecipes()), QStringList{u"0:Porridge"_s});
+    }
+
+    void insertReplaceAndIgnore_data()
+    {
+        QTest::addColumn<qint64>("id");
+        QTest::addColumn<QStringList>("expected");
+        QTest::addColumn<QByteArray>("updateLine");
+        QTest::newRow("next id appends") << qint64(2) << QStringList{"0:A", "1:B", "2:New"} << QByteArray();
+        QTest::newRow("known id replaces in place") << qint64(1) << QStringList{"0:A", "1:New"}
+                                                    << QByteArray("Should update: 1");
+        QTest::newRow("unknown id changes nothing") << qint64(7) << QStringList{"0:A", "1:B"}
+                                                    << QByteArray("Should update: none");
+        QTest::newRow("never saved id changes nothing") << qint64(-1) << QStringList{"0:A", "1:B"}
+                                                        << QByteArray("Should update: none");
+    }
+
+    void insertReplaceAndIgnore()
+    {
+        QFETCH(qint64, id);
+        QFETCH(QStringList, expected);
+        QFETCH(QByteArray, updateLine);
+        saveRecipe(meal(0, QStringLiteral("A")));
+        saveRecipe(meal(1, QStringLiteral("B")));
+
+        StdoutCapture capture;
+        saveRecipe(meal(id, QStringLiteral("New"), 3));
+        const QList<QByteArray> lines = capture.lines();
+
+        QCOMPARE(names(getRecipes()), expected);
+        QVERIFY(lines.first().startsWith("NOW SAVING: {"));
+        QVERIFY(lines.first().contains("\"New\""));
+        QCOMPARE(lines.size(), updateLine.isEmpty() ? 2 : 3);
+        if (!updateLine.isEmpty())
+            QCOMPARE(lines.at(1), updateLine);
+        // The last line is the whole list as stored.
+        QCOMPARE(QJsonDocument::fromJson(lines.last()).array().size(), expected.size());
+    }
+
+    void linesRoundTripWithEveryField()
+    {
+        RecipeItem recipe{QStringLiteral("Burger menu"), 0,
+                          {example::exampleTrackedNutrient2(), example::exampleDiaryRecipeItem1()}, 2};
+        saveRecipe(recipe);
+        const RecipeItem stored = getRecipes().at(0);
+        QCOMPARE(stored.toJson(), recipe.toJson());
+        QCOMPARE(stored.items.at(1)->recipeItem()->items.size(), 2);
+        QCOMPARE(stored.getTotalTracked(), recipe.getTotalTracked());
+    }
+
+    void unreadableDocumentsReadAsEmpty_data()
+    {
+        QTest::addColumn<QVariant>("stored");
+        QTest::addColumn<qint64>("nextId");
+        QTest::addColumn<QStringList>("afterSave");
+        const QStringList one{u"0:New"_s};
+        QTest::newRow("null") << QVariant(QByteArray("null")) << qint64(0) << one;
+        QTest::newRow("empty bytes") << QVariant(QByteArray()) << qint64(0) << one;
+        QTest::newRow("random bytes") << QVariant(randomBytes(4096)) << qint64(0) << one;
+        QTest::newRow("1 MB of [") << QVariant(QByteArray(1 << 20, '[')) << qint64(0) << one;
+        QTest::newRow("nested 100000 deep") << QVariant(nested(100000)) << qint64(0) << one;
+        QTest::newRow("an object") << QVariant(QByteArray(R"({"recipes":[]})")) << qint64(3) << QStringList();
+        QTest::newRow("array of numbers") << QVariant(QByteArray("[1,2,3]")) << qint64(0) << one;
+        QTest::newRow("id out of range") << QVariant(storedMealWith("id", 1e300)) << qint64(0) << one;
+        QTest::newRow("id as text") << QVariant(storedMealWith("id", u"0"_s)) << qint64(0) << one;
+        QTest::newRow("servings as text") << QVariant(storedMealWith("servings", u"2"_s)) << qint64(0) << one;
+        QTest::newRow("items missing a key") << QVariant(storedMealWith("items", QJsonArray{QJsonObject{{u"id"_s, 1}}}))
+                                             << qint64(0) << one;
+        QTest::newRow("text instead of bytes") << QVariant(QStringLiteral("[]")) << qint64(0) << one;
+        QTest::newRow("a number instead of bytes") << QVariant(42) << qint64(1) << QStringList();
+        QTest::newRow("truncated document") << QVariant(storedMealWith("name", u"x"_s).chopped(3)) << qint64(0) << one;
+    }
+
+    void unreadableDocumentsReadAsEmpty()
+    {
+        QFETCH(QVariant, stored);
+        QFETCH(qint64, nextId);
+        QFETCH(QStringList, afterSave);
+        StoreFixture::storeRaw(stored);
+        QVERIFY(getRecipes().isEmpty());
+        saveRecipe(meal(nextId, QStringLiteral("New")));
+        QCOMPARE(names(getRecipes()), afterSave);
+    }
+};
+
+QTEST_GUILESS_MAIN(RecipeStoreTest)
+#include "tst_recipestore.moc"
