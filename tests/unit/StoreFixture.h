@@ -1,7 +1,8 @@
 #pragma once
 
-#include <QDir>
-#include <QSettings>
+#include "Preferences.h"
+
+#include <QFile>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
@@ -22,13 +23,20 @@ public:
     /// Writes any value under the meal key, as another program might.
     static void storeRaw(const QVariant &value)
     {
-        QSettings settings(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("Nutrika"),
-                           QStringLiteral("nutrika"));
+        nutrika::Preferences settings;
         settings.setValue(QStringLiteral("recipes"), value);
         settings.sync();
     }
 
     static void clear() { storeRaw(QVariant()); }
+
+    /// Overwrites the whole preferences file, as a crash of the disk or another program might.
+    static void overwriteFile(const QByteArray &bytes)
+    {
+        QFile file(nutrika::Preferences().fileName());
+        file.open(QIODevice::WriteOnly | QIODevice::Truncate);
+        file.write(bytes);
+    }
 
 private:
     QTemporaryDir m_home;

@@ -142,6 +142,25 @@ private slots:
         saveRecipe(meal(nextId, QStringLiteral("New")));
         QCOMPARE(names(getRecipes()), afterSave);
     }
+
+    void corruptPreferencesFileReadsAsEmpty_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::newRow("empty file") << QByteArray();
+        QTest::newRow("random bytes") << randomBytes(1000);
+        QTest::newRow("text settings") << QByteArray("[General]\nrecipes=@ByteArray([])\n");
+        QTest::newRow("right header, truncated map") << QByteArray("NTR1\0\0\0\x05", 8);
+    }
+
+    void corruptPreferencesFileReadsAsEmpty()
+    {
+        QFETCH(QByteArray, file);
+        saveRecipe(meal(0, QStringLiteral("Lost")));
+        StoreFixture::overwriteFile(file);
+        QVERIFY(getRecipes().isEmpty());
+        saveRecipe(meal(0, QStringLiteral("Again")));
+        QCOMPARE(names(getRecipes()), QStringList{u"0:Again"_s});
+    }
 };
 
 QTEST_GUILESS_MAIN(RecipeStoreTest)

@@ -16,8 +16,6 @@ DiaryEntry::DiaryEntry(qint64 id, entryType type)
 {
     // Lines are owned by the C++ lists; QML only borrows them.
     QJSEngine::setObjectOwnership(this, QJSEngine::CppOwnership);
-    connect(this, &DiaryEntry::quantityChanged, this, &DiaryEntry::totalChanged);
-    connect(this, &DiaryEntry::trackedNutrientChanged, this, &DiaryEntry::totalChanged);
 }
 
 DiaryEntry::DiaryEntry(qint64 id, const PortionItem &portion, const FoodItem &food)
@@ -47,6 +45,7 @@ void DiaryEntry::setQuantity(qint64 quantity)
 {
     m_quantity = quantity;
     emit quantityChanged();
+    emit totalChanged();
 }
 
 void DiaryEntry::setNutrients(const std::optional<QList<NutrientValue>> &nutrients)
@@ -59,6 +58,7 @@ void DiaryEntry::setTrackedNutrient(const std::optional<NutrientValue> &tracked)
 {
     m_trackedNutrient = tracked;
     emit trackedNutrientChanged();
+    emit totalChanged();
 }
 
 double DiaryEntry::totalTrackedNutrient() const

@@ -37,4 +37,49 @@ QByteArray encodeRecipeDocument(const QList<RecipeItem> &recipes)
     return QJsonDocument(array).toJson(QJsonDocument::Compact);
 }
 
+namespace {
+
+/// Byte ranges of the objects directly inside a JSON array that is known to be valid.
+QList<std::pair<qsizetype, qsizetype>> topLevelObjects(const QByteArray &array)
+{
+    QList<std::pair<qsizetype, qsizetype>> spans;
+    int depth = 0;
+    bool inString = false;
+    bool escaped = false;
+    qsizetype start = 0;
+    for (qsizetype i = 0; i < array.size(); ++i) {
+        const char c = array[i];
+        if (inString) {
+            if (escaped)
+                escaped = false;
+            else if (c == '\\')
+                escaped = true;
+            else if (c == '"')
+                inString = false;
+        } else if (c == '"') {
+            inString = true;
+        } else if (c == '{' || c == '[') {
+            if (depth++ == 1)
+                start = i;
+        } else if (c == '}' || c == ']') {
+            if (--depth == 1)
+                spans.append({start, i + 1});
+        }
+    }
+    return spans;
+}
+
+} // namespace
+
+QByteArray spliceRecipeDocument(const QByteArray &document, qsizetype index, const QByteArray &meal)
+{
+    const auto spans = topLevelObjects(document);
+    if (index < spans.size()) {
+        const auto [begin, end] = spans.at(index);
+        return document.left(begin) + meal + document.mid(end);
+    }
+    const qsizetype close = spans.last().second;
+    return document.left(close) + ',' + meal + document.mid(close);
+}
+
 } // namespace nutrika

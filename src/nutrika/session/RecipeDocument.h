@@ -15,4 +15,9 @@ namespace nutrika {
 /// Encodes meals as one compact JSON array, in list order.
 [[nodiscard]] QByteArray encodeRecipeDocument(const QList<RecipeItem> &recipes);
 
+/// Replaces the meal at `index` of a document that decoded to a non-empty list with the encoded `meal`,
+/// or appends it when `index` is the number of meals. The other meals keep their bytes, so a save does
+/// not re-encode the whole list.
+[[nodiscard]] QByteArray spliceRecipeDocument(const QByteArray &document, qsizetype index, const QByteArray &meal);
+
 } // namespace nutrika

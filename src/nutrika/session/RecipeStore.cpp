@@ -1,11 +1,11 @@
 #include "RecipeStore.h"
 
 #include "Diagnostics.h"
+#include "Preferences.h"
 #include "RecipeDocument.h"
 
-#include <QJsonDocument>
 #include <QFile>
-#include <QSettings>
+#include <QJsonDocument>
 #include <sys/file.h>
 
 namespace nutrika {
@@ -14,19 +14,27 @@ namespace {
 
 const QString recipesKey = QStringLiteral("recipes");
 
-// The module keeps its own preferences file, whatever the host application calls itself.
-struct Preferences : QSettings
+struct StoredRecipes
 {
-    Preferences()
-        : QSettings(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("Nutrika"),
-                    QStringLiteral("nutrika"))
-    {
-    }
+    QByteArray document;
+    QList<RecipeItem> recipes;
 };
 
-// QSettings creates its lock file empty and writes the owner into it a moment later. A process killed
-// in between leaves an empty file that would stall the next save for half a minute; the owner's flock
-// died with it, so an empty file we can flock is abandoned.
+StoredRecipes readStore()
+{
+    const QVariant stored = Preferences().value(recipesKey);
+    if (stored.typeId() != QMetaType::QByteArray)
+        return {};
+    QByteArray document = stored.toByteArray();
+    std::optional<QList<RecipeItem>> recipes = decodeRecipeDocument(document);
+    if (!recipes)
+        return {};
+    return {std::move(document), std::move(*recipes)};
+}
+
+// The settings lock file is created empty and the owner is written into it a moment later. A process
+// killed in between leaves an empty file that would stall the next save for half a minute; the owner's
+// flock died with it, so an empty file we can flock is abandoned.
 void removeAbandonedLock(const QString &settingsFile)
 {
     QFile lock(settingsFile + QStringLiteral(".lock"));
@@ -40,32 +48,34 @@ void removeAbandonedLock(const QString &settingsFile)
 
 QList<RecipeItem> getRecipes()
 {
-    const QVariant stored = Preferences().value(recipesKey);
-    if (stored.typeId() != QMetaType::QByteArray)
-        return {};
-    return decodeRecipeDocument(stored.toByteArray()).value_or(QList<RecipeItem>());
+    return readStore().recipes;
 }
 
 void saveRecipe(const RecipeItem &recipe)
 {
-    QList<RecipeItem> list = getRecipes();
-    printDiagnostic("NOW SAVING: ", QJsonDocument(recipe.toJson()).toJson(QJsonDocument::Compact));
+    StoredRecipes stored = readStore();
+    QList<RecipeItem> &list = stored.recipes;
+    const QByteArray meal = QJsonDocument(recipe.toJson()).toJson(QJsonDocument::Compact);
+    printDiagnostic("NOW SAVING: ", meal);
 
-    if (recipe.id == list.size()) {
-        list.append(recipe);
-    } else {
-        const auto found = std::find_if(list.begin(), list.end(),
-                                        [&recipe](const RecipeItem &stored) { return stored.id == recipe.id; });
-        const bool exists = found != list.end();
+    qsizetype index = list.size();
+    if (recipe.id != list.size()) {
+        const auto found = std::find_if(list.cbegin(), list.cend(),
+                                        [&recipe](const RecipeItem &saved) { return saved.id == recipe.id; });
+        index = found == list.cend() ? -1 : found - list.cbegin();
         printDiagnostic(QStringLiteral("Should update: ") +
-                        (exists ? QString::number(found - list.begin()) : QStringLiteral("none")));
-        if (exists)
-            *found = recipe;
+                        (index < 0 ? QStringLiteral("none") : QString::number(index)));
     }
 
-    const QByteArray document = encodeRecipeDocument(list);
-    // QSettings writes through a temporary file and a rename, so a crash leaves the old or the new
-    // document, never half of one; sync() puts it on disk before we return.
+    // An empty list is written afresh: it may stand for an unreadable document.
+    QByteArray document;
+    if (list.isEmpty())
+        document = encodeRecipeDocument(index == 0 ? QList<RecipeItem>{recipe} : QList<RecipeItem>());
+    else
+        document = index < 0 ? stored.document : spliceRecipeDocument(stored.document, index, meal);
+
+    // The settings file is replaced through a temporary file and a rename, so a crash leaves the old or
+    // the new document, never half of one; sync() puts it on disk before we return.
     Preferences settings;
     removeAbandonedLock(settings.fileName());
     settings.setValue(recipesKey, document);

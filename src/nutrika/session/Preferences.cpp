@@ -1,0 +1,45 @@
+#include "Preferences.h"
+
+#include <QDataStream>
+
+namespace nutrika {
+
+namespace {
+
+constexpr quint32 fileMagic = 0x4e545231; // "NTR1"
+
+bool readPreferences(QIODevice &device, QSettings::SettingsMap &map)
+{
+    QDataStream in(&device);
+    in.setVersion(QDataStream::Qt_6_4);
+    quint32 magic = 0;
+    in >> magic;
+    if (magic != fileMagic)
+        return false;
+    in >> map;
+    return in.status() == QDataStream::Ok && in.atEnd();
+}
+
+bool writePreferences(QIODevice &device, const QSettings::SettingsMap &map)
+{
+    QDataStream out(&device);
+    out.setVersion(QDataStream::Qt_6_4);
+    out << fileMagic << map;
+    return out.status() == QDataStream::Ok;
+}
+
+QSettings::Format preferencesFormat()
+{
+    static const QSettings::Format format =
+        QSettings::registerFormat(QStringLiteral("prefs"), readPreferences, writePreferences);
+    return format;
+}
+
+} // namespace
+
+Preferences::Preferences()
+    : QSettings(preferencesFormat(), QSettings::UserScope, QStringLiteral("Nutrika"), QStringLiteral("nutrika"))
+{
+}
+
+} // namespace nutrika
