@@ -1,0 +1,18 @@
+#include "FuzzerSetup.h"
+#include "RecipeDocument.h"
+
+#include <cstddef>
+#include <cstdint>
+
+extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
+{
+    addSeedsAndDictionary(argc, argv, NUTRIKA_FUZZ_TARGET);
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const QByteArray bytes(reinterpret_cast<const char *>(data), qsizetype(size));
+    (void)nutrika::decodeRecipeDocument(bytes);
+    return 0;
+}

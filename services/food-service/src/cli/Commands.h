@@ -1,0 +1,12 @@
+#pragma once
+
+namespace foodservice {
+
+class CommandLine;
+
+// Each returns the process exit code.
+int runImport(const CommandLine &options);
+int runServe(const CommandLine &options);
+int runBench(const CommandLine &options);
+
+} // namespace foodservice

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "db/ConnectionPool.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace foodservice {
+
+struct PortionRow
+{
+    std::int64_t id = 0;
+    std::int64_t orderNum = 0;
+    std::int64_t size = 0;
+    std::string description;
+    std::string picture;
+};
+
+struct NutrientAmount
+{
+    bool isMacro = false;
+    std::string name;
+    std::string units;
+    double per100g = 0;
+};
+
+struct PortionPictureRow
+{
+    std::string picture;
+    std::string category;
+};
+
+// The per-food rows of the database, read on demand.
+class FoodStore
+{
+public:
+    explicit FoodStore(ConnectionPool &pool);
+
+    [[nodiscard]] std::vector<PortionRow> portions(std::int64_t foodId) const;
+    [[nodiscard]] std::vector<NutrientAmount> nutrients(std::int64_t foodId) const;
+    [[nodiscard]] std::vector<std::int64_t> accompaniments(std::int64_t foodId) const;
+    [[nodiscard]] std::optional<PortionPictureRow> portionPicture(std::int64_t portionId) const;
+
+private:
+    ConnectionPool &m_pool;
+};
+
+} // namespace foodservice

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "source/SourceFood.h"
+
+#include <optional>
+#include <string_view>
+
+namespace foodservice {
+
+// Parses one food file (<food uid=".." name=".."><measure/>..<nutrient/>..</food>).
+// Returns nothing for an XML file without a food element; throws std::runtime_error
+// when the food element is malformed.
+[[nodiscard]] std::optional<SourceFood> parseFoodXml(std::string_view xml);
+
+} // namespace foodservice

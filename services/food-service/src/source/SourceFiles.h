@@ -1,0 +1,15 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace foodservice {
+
+// Calls visit(name, content) for every XML file of the food data, in name order.
+// The source is a zip or jar archive, or a folder searched recursively.
+// Throws std::runtime_error when the source cannot be read.
+void forEachSourceFile(const std::string &source,
+                       const std::function<void(const std::string &, std::string_view)> &visit);
+
+} // namespace foodservice

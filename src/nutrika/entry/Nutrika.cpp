@@ -1,0 +1,61 @@
+#include "nutrika/Nutrika.h"
+
+#include "ApiKey.h"
+#include "CarbCounterUIView.h"
+#include "Look.h"
+
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQmlExtensionPlugin>
+#include <QQuickWidget>
+#include <QVBoxLayout>
+
+// The module is a static QML plugin: a host that reaches initNutrika also gets the plugin registered.
+Q_IMPORT_QML_PLUGIN(NutrikaPlugin)
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace nutrika {
+
+void prepareNutrikaEngine(QQmlEngine &engine)
+{
+    engine.addImportPath(u"qrc:/qt/qml"_s);
+}
+
+QWidget *initNutrika(const QString &apiKey, std::function<void()> onDismissCallback)
+{
+    API_KEY = apiKey;
+
+    auto *container = new QWidget;
+    container->setWindowTitle(u"Nutrika"_s);
+    container->setAccessibleName(u"Nutrika carbohydrate calculator"_s);
+    auto *view = new QQuickWidget(container);
+    // A child of the view, so it outlives the QML root that the view deletes first.
+    auto *calculator = new CarbCounterUIView(std::move(onDismissCallback), view);
+    view->setResizeMode(QQuickWidget::SizeRootObjectToView);
+    const QColor background = Look().detailColor();
+    view->setClearColor(background);
+    QPalette palette = container->palette();
+    palette.setColor(QPalette::Window, background);
+    container->setPalette(palette);
+    container->setAutoFillBackground(true);
+
+    prepareNutrikaEngine(*view->engine());
+    const QUrl root(u"qrc:/qt/qml/Nutrika/entry/NutrikaRoot.qml"_s);
+    auto *component = new QQmlComponent(view->engine(), root, view);
+    QObject *item = component->createWithInitialProperties({{u"calculator"_s, QVariant::fromValue(calculator)}});
+    if (!item)
+        qCritical("Nutrika: the calculator could not be built: %s", qPrintable(component->errorString()));
+    view->setContent(root, component, item);
+
+    auto *layout = new QVBoxLayout(container);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(view);
+    view->setFocus();
+
+    QObject::connect(calculator, &CarbCounterUIView::dismissPresentation, container, &QWidget::close);
+    container->setWindowState(Qt::WindowFullScreen);
+    return container;
+}
+
+} // namespace nutrika

@@ -1,0 +1,159 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import QtQuick.Layouts
+import Nutrika
+
+// The look of CarbCounterUIView: the calculator's lines, the total and "Search more foods".
+FocusScope {
+    id: screen
+
+    property CarbCounterUIView uiView: CarbCounterUIView {}
+    required property StackView navigation
+    property var presentationMode: null
+
+    StackView.onActivated: uiView.appear()
+
+    ViewContainer {
+        anchors.fill: parent
+        titleText: qsTr("Carb Calculator")
+        backButton: false
+        presentationMode: screen.presentationMode
+
+        Item {
+            id: columnHeader
+            width: parent.width
+            implicitHeight: headerRow.implicitHeight
+            height: implicitHeight
+            RowLayout {
+                id: headerRow
+                anchors.fill: parent
+                spacing: 8
+                Text {
+                    Layout.fillWidth: true
+                    Layout.margins: 16
+                    text: qsTr("Food/Drink")
+                    font.bold: true
+                    font.pixelSize: Look.bodySize
+                }
+                Text {
+                    Layout.maximumWidth: 170
+                    Layout.margins: 16
+                    text: screen.uiView.counterHeader
+                    font.bold: true
+                    font.pixelSize: Look.bodySize
+                    wrapMode: Text.WordWrap
+                }
+            }
+            EdgeBorder {
+                anchors.fill: parent
+                lineWidth: 2
+                edges: [EdgeBorder.Bottom]
+                color: Look.lightGray
+            }
+        }
+
+        ListView {
+            id: lineList
+            objectName: "lineList"
+            y: columnHeader.height
+            width: parent.width
+            height: parent.height - columnHeader.height - searchMore.height - 20
+            clip: true
+            model: screen.uiView.lines
+            boundsBehavior: Flickable.StopAtBounds
+            Accessible.role: Accessible.List
+            Accessible.name: qsTr("Calculator")
+
+            delegate: CalculatorLine {
+                required property int index
+                required property DiaryEntry modelData
+                width: lineList.width
+                title: screen.uiView.lineTitle(index)
+                isFood: screen.uiView.lineIsFood(index)
+                amount: {
+                    // Read so the amount follows edits of this line and of lines inside a meal.
+                    modelData.total
+                    screen.uiView.totalText
+                    return screen.uiView.lineAmount(index)
+                }
+                onOpened: lineLink.open(index)
+                onRemoved: screen.uiView.remove(index)
+            }
+
+            footer: Rectangle {
+                objectName: "totalRow"
+                width: lineList.width
+                implicitHeight: totalLayout.implicitHeight + 32
+                color: Look.detailColor
+                Accessible.role: Accessible.StaticText
+                Accessible.name: qsTr("Total %1").arg(screen.uiView.totalText)
+                RowLayout {
+                    id: totalLayout
+                    anchors.fill: parent
+                    anchors.margins: 16
+                    Text {
+                        Layout.fillWidth: true
+                        text: qsTr("Total")
+                        font.bold: true
+                        font.pixelSize: Look.bodySize
+                        color: Look.titleText
+                    }
+                    Text {
+                        objectName: "totalAmount"
+                        Layout.maximumWidth: 170
+                        text: screen.uiView.totalText
+                        font.bold: true
+                        font.pixelSize: Look.bodySize
+                        color: Look.titleText
+                    }
+                }
+            }
+        }
+
+        ActionButton {
+            id: searchMore
+            objectName: "searchMoreButton"
+            anchors.bottom: parent.bottom
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.margins: 10
+            implicitHeight: 60
+            text: qsTr("Search more foods")
+            bold: true
+            pixelSize: Look.titleSize
+            textColor: "white"
+            fillColor: Look.titleText
+            radius: 25
+            onClicked: EnvironmentVariables.searchActive = true
+        }
+    }
+
+    NavigationLink {
+        navigation: screen.navigation
+        active: EnvironmentVariables.searchActive
+        destination: "SearchContainerUIView"
+        onDismissed: EnvironmentVariables.searchActive = false
+    }
+
+    // A tapped line: its preview for a food, the meal editor for a meal.
+    NavigationLink {
+        id: lineLink
+        function open(index) {
+            const food = screen.uiView.lineIsFood(index)
+            destination = food ? "AddToCalcPreviewUIView" : "CreateRecipeUIView"
+            properties = { diaryEntry: screen.uiView.line(index), mode: food ? "edit" : "view" }
+            active = true
+        }
+        navigation: screen.navigation
+        onDismissed: active = false
+    }
+
+    // The chosen suggestion's portions; read-only: going back does not clear the flag.
+    NavigationLink {
+        navigation: screen.navigation
+        active: screen.uiView.hasAccompanimentItem && EnvironmentVariables.accompanimentsActive
+        writesBack: false
+        destination: "SelectPortionUIView"
+        properties: ({ foodItem: screen.uiView.accompanimentItem })
+    }
+}

@@ -1,0 +1,110 @@
+#pragma once
+
+#include "DiaryEntry.h"
+#include "FoodItem.h"
+#include "Preview.h"
+
+#include <QList>
+#include <QObject>
+#include <QVariant>
+#include <QtQmlIntegration>
+#include <functional>
+#include <optional>
+
+namespace nutrika {
+
+/// State and operations of the calculator, the module's root screen: the session's lines and their
+/// total, removal, the appearance steps, the "Close" action and the suggestion flow. Its look is
+/// CarbCounterScreen.qml.
+class CarbCounterUIView : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    /// The session's lines (DiaryEntry objects), in display order.
+    Q_PROPERTY(QList<QObject *> lines READ lines NOTIFY linesChanged)
+    Q_PROPERTY(QString totalText READ totalText NOTIFY totalChanged)
+    /// "Total Carbohydrates".
+    Q_PROPERTY(QString counterHeader READ counterHeader CONSTANT)
+    Q_PROPERTY(bool hasAccompanimentItem READ hasAccompanimentItem NOTIFY accompanimentItemChanged)
+    Q_PROPERTY(nutrika::FoodItem accompanimentItem READ accompanimentItemValue NOTIFY accompanimentItemChanged)
+    /// The suggested foods (FoodItem values).
+    Q_PROPERTY(QVariantList accompanimentListItems READ accompanimentListVariant NOTIFY accompanimentListItemsChanged)
+    Q_PROPERTY(bool showAccompanimentList READ showAccompanimentList WRITE setShowAccompanimentList NOTIFY
+                   showAccompanimentListChanged)
+    Q_PROPERTY(nutrika::Preview::Value preview READ preview WRITE setPreview NOTIFY previewChanged)
+
+public:
+    using FoodsDone = std::function<void(std::optional<QList<FoodItem>>)>;
+    using AccompanimentRequest = std::function<void(qint64 foodId, QObject *context, FoodsDone done)>;
+
+    static constexpr int accompanimentDelayMs = 1000;
+
+    /// For a QML host: the host's callback is the dismissCallback() signal.
+    explicit CarbCounterUIView(QObject *parent = nullptr);
+    explicit CarbCounterUIView(std::function<void()> onDismissCallback, QObject *parent = nullptr);
+
+    /// "12 g", "12.5 g", "0 g": the shortest decimal form without ".0", then " g".
+    [[nodiscard]] Q_INVOKABLE static QString amountText(double amount);
+
+    [[nodiscard]] QList<QObject *> lines() const;
+    [[nodiscard]] double calculateTotal() const;
+    [[nodiscard]] QString totalText() const { return amountText(calculateTotal()); }
+    [[nodiscard]] QString counterHeader() const;
+
+    /// The line's food description or meal name; "" when the line lacks its record.
+    [[nodiscard]] Q_INVOKABLE QString lineTitle(int index) const;
+    [[nodiscard]] Q_INVOKABLE bool lineIsFood(int index) const;
+    /// The line's amount, or "" when the line lacks what its amount needs.
+    [[nodiscard]] Q_INVOKABLE QString lineAmount(int index) const;
+    /// The line at `index`, for the screen that edits it.
+    [[nodiscard]] Q_INVOKABLE nutrika::DiaryEntry *line(int index) const;
+
+    /// Removes the line at `index` from the session; an index out of range changes nothing.
+    Q_INVOKABLE void remove(int index);
+    /// The steps run each time the screen is shown.
+    Q_INVOKABLE void appear();
+
+    /// Asks the service for the foods eaten with the session's foodItemForAccompaniments.
+    void getAccompanimentData();
+    void setAccompanimentRequest(AccompanimentRequest request) { m_request = std::move(request); }
+    /// The suggestion screen's selection handler.
+    void selectAccompaniment(const std::optional<FoodItem> &item);
+    /// The same for QML: a foodItem value, or undefined for none.
+    Q_INVOKABLE void selectAccompanimentValue(const QVariant &item);
+
+    [[nodiscard]] const std::optional<FoodItem> &accompanimentItem() const { return m_accompanimentItem; }
+    [[nodiscard]] bool hasAccompanimentItem() const { return m_accompanimentItem.has_value(); }
+    [[nodiscard]] FoodItem accompanimentItemValue() const { return m_accompanimentItem.value_or(FoodItem()); }
+    [[nodiscard]] const QList<FoodItem> &accompanimentListItems() const { return m_accompanimentListItems; }
+    [[nodiscard]] QVariantList accompanimentListVariant() const;
+    [[nodiscard]] bool showAccompanimentList() const { return m_showAccompanimentList; }
+    void setShowAccompanimentList(bool show);
+    [[nodiscard]] Preview::Value preview() const { return m_preview; }
+    void setPreview(Preview::Value preview);
+
+signals:
+    void linesChanged();
+    void totalChanged();
+    void accompanimentItemChanged();
+    void accompanimentListItemsChanged();
+    void showAccompanimentListChanged();
+    void previewChanged();
+    /// The host's callback, for a host that embeds the module in QML.
+    void dismissCallback();
+    /// The module's presentation should end (the container hides).
+    void dismissPresentation();
+
+private:
+    void watchLines();
+    [[nodiscard]] DiaryEntryPtr lineAt(int index) const;
+
+    std::function<void()> m_onDismissCallback;
+    AccompanimentRequest m_request;
+    std::optional<FoodItem> m_accompanimentItem;
+    QList<FoodItem> m_accompanimentListItems;
+    bool m_showAccompanimentList = false;
+    Preview::Value m_preview = Preview::NotPreview;
+    QList<QMetaObject::Connection> m_lineConnections;
+};
+
+} // namespace nutrika

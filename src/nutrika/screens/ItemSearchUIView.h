@@ -1,0 +1,111 @@
+#pragma once
+
+#include "FoodSearchRequest.h"
+#include "SearchResultsModel.h"
+
+#include <QObject>
+#include <QStringList>
+#include <QtQmlIntegration>
+#include <optional>
+
+namespace nutrika {
+
+/// State and operations of the food search: the settled text, the pages of generic and branded results,
+/// the brand and category filters and the error alert. Its look is ItemSearchScreen.qml.
+class ItemSearchUIView : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QString debouncedText READ debouncedText NOTIFY debouncedTextChanged)
+    Q_PROPERTY(bool isLoading READ isLoading NOTIFY isLoadingChanged)
+    Q_PROPERTY(nutrika::SearchResultsModel *results READ results CONSTANT)
+    Q_PROPERTY(qint64 numSearchResults READ numSearchResults NOTIFY numSearchResultsChanged)
+    /// "N items matching your search"; "" while there is no text.
+    Q_PROPERTY(QString countText READ countText NOTIFY countTextChanged)
+    Q_PROPERTY(QStringList brandOptions READ brandOptions NOTIFY brandOptionsChanged)
+    Q_PROPERTY(QStringList categoryOptions READ categoryOptions NOTIFY categoryOptionsChanged)
+    Q_PROPERTY(QString brandFilterValue READ brandFilterValue WRITE setBrandFilterValue NOTIFY brandFilterValueChanged)
+    Q_PROPERTY(QString categoryFilterValue READ categoryFilterValue WRITE setCategoryFilterValue NOTIFY
+                   categoryFilterValueChanged)
+    Q_PROPERTY(bool showErrorMessage READ showErrorMessage WRITE setShowErrorMessage NOTIFY showErrorMessageChanged)
+    Q_PROPERTY(QString errorMessageTitle READ errorMessageTitle NOTIFY errorMessageChanged)
+    Q_PROPERTY(QString errorMessageBody READ errorMessageBody NOTIFY errorMessageChanged)
+    Q_PROPERTY(qint64 offset READ offset NOTIFY offsetChanged)
+
+public:
+    static inline const QString ALL_BRANDS = QStringLiteral("All Brands");
+    static inline const QString ALL_CATEGORIES = QStringLiteral("All Categories");
+
+    explicit ItemSearchUIView(QObject *parent = nullptr);
+
+    /// A settled search text: a new non-empty text starts again at the first page and asks for the
+    /// filter options; the same text again, or an empty one, requests nothing.
+    Q_INVOKABLE void onFinishTyping(const QString &text);
+    /// Asks for the page at `offset` with the current text and filters.
+    Q_INVOKABLE void loadSearchData();
+    /// Asks for the brands and categories of the current text.
+    Q_INVOKABLE void getFilterOptions();
+    /// A result row came into view; the last row of the section that pages asks for the next page.
+    Q_INVOKABLE void rowAppeared(bool branded, int indexInSection);
+    /// "Done" on a filter sheet: the search starts again at the first page.
+    Q_INVOKABLE void filterDone();
+    /// Opens the portion screen for the food at `row` of the results.
+    Q_INVOKABLE void selectRow(int row);
+    void showError(const QString &body, const QString &title);
+
+    [[nodiscard]] const QString &debouncedText() const { return m_debouncedText; }
+    [[nodiscard]] bool isLoading() const { return m_isLoading; }
+    [[nodiscard]] SearchResultsModel *results() { return &m_results; }
+    [[nodiscard]] const QList<FoodItem> &nonBrandedResults() const { return m_results.nonBranded(); }
+    [[nodiscard]] const QList<FoodItem> &brandedResults() const { return m_results.branded(); }
+    [[nodiscard]] qint64 numSearchResults() const { return m_numSearchResults; }
+    [[nodiscard]] QString countText() const;
+    [[nodiscard]] const QStringList &brandOptions() const { return m_brandOptions; }
+    [[nodiscard]] const QStringList &categoryOptions() const { return m_categoryOptions; }
+    [[nodiscard]] const QString &brandFilterValue() const { return m_brandFilterValue; }
+    void setBrandFilterValue(const QString &value);
+    [[nodiscard]] const QString &categoryFilterValue() const { return m_categoryFilterValue; }
+    void setCategoryFilterValue(const QString &value);
+    [[nodiscard]] bool showErrorMessage() const { return m_showErrorMessage; }
+    void setShowErrorMessage(bool show);
+    [[nodiscard]] const QString &errorMessageTitle() const { return m_errorMessageTitle; }
+    [[nodiscard]] const QString &errorMessageBody() const { return m_errorMessageBody; }
+    [[nodiscard]] qint64 offset() const { return m_offset; }
+
+signals:
+    void debouncedTextChanged();
+    void isLoadingChanged();
+    void numSearchResultsChanged();
+    void countTextChanged();
+    void brandOptionsChanged();
+    void categoryOptionsChanged();
+    void brandFilterValueChanged();
+    void categoryFilterValueChanged();
+    void showErrorMessageChanged();
+    void errorMessageChanged();
+    void offsetChanged();
+
+private:
+    void restartSearch();
+    void setLoading(bool loading);
+    void applyPage(const FoodSearchPage &page);
+
+    QString m_debouncedText;
+    bool m_isLoading = false;
+    SearchResultsModel m_results;
+    qint64 m_numSearchResults = 0;
+    QStringList m_brandOptions;
+    QStringList m_categoryOptions;
+    QString m_brandFilterValue;
+    QString m_categoryFilterValue;
+    bool m_showErrorMessage = false;
+    QString m_errorMessageTitle = QStringLiteral("Error");
+    QString m_errorMessageBody = QStringLiteral("An Unknown Error Has Occoured");
+    qint64 m_offset = 0;
+    // Replies to an earlier text or filter choice are dropped, so a slow old reply never overwrites
+    // newer results; and a page already on its way is not asked for twice.
+    quint64 m_generation = 0;
+    std::optional<qint64> m_pageInFlight;
+};
+
+} // namespace nutrika

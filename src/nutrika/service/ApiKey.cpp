@@ -1,0 +1,7 @@
+#include "ApiKey.h"
+
+namespace nutrika {
+
+QString API_KEY;
+
+} // namespace nutrika

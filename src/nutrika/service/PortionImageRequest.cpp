@@ -1,0 +1,54 @@
+#include "PortionImageRequest.h"
+
+#include "RequestFrame.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace nutrika {
+
+namespace {
+
+void requestPicture(const QString &pathWithQuery, QObject *context,
+                    std::function<void(const std::optional<QImage> &)> done)
+{
+    sendRawRequest(pathWithQuery, context,
+                   [done = std::move(done)](std::optional<int> status, const QByteArray &body) {
+                       done(mapPortionImage(status, body));
+                   });
+}
+
+} // namespace
+
+QString portionImagePath(qint64 portionId)
+{
+    return u"/api/v1/healthcare//food_portion_images/"_s + QString::number(portionId);
+}
+
+QString portionThumbnailPath(qint64 portionId)
+{
+    return portionImagePath(portionId) + u"?width=200&height=200&type=thumbnail"_s;
+}
+
+std::optional<QImage> mapPortionImage(std::optional<int> status, const QByteArray &body)
+{
+    if (!status || body.isEmpty())
+        return std::nullopt;
+    QImage image = QImage::fromData(body);
+    if (image.isNull())
+        return std::nullopt;
+    return image;
+}
+
+void requestPortionThumbnail(qint64 portionId, QObject *context,
+                             std::function<void(const std::optional<QImage> &)> done)
+{
+    requestPicture(portionThumbnailPath(portionId), context, std::move(done));
+}
+
+void requestPortionImage(qint64 portionId, QObject *context,
+                         std::function<void(const std::optional<QImage> &)> done)
+{
+    requestPicture(portionImagePath(portionId), context, std::move(done));
+}
+
+} // namespace nutrika

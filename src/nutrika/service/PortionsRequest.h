@@ -1,0 +1,23 @@
+#pragma once
+
+#include "PortionItem.h"
+#include "ServiceFailure.h"
+
+#include <QList>
+#include <QObject>
+#include <functional>
+#include <optional>
+
+namespace nutrika {
+
+[[nodiscard]] QString portionsPath(qint64 foodId);
+
+/// The portions in reply order, skipping every element with a required member missing or of another
+/// type. A body without a "portions" array is a server error.
+[[nodiscard]] ServiceResult<QList<PortionItem>> mapPortionsReply(const ServiceReply &reply);
+
+/// Sends the request; on failure writes the failure's diagnostic line and passes nullopt.
+void requestPortions(qint64 foodId, QObject *context,
+                     std::function<void(const std::optional<QList<PortionItem>> &)> done);
+
+} // namespace nutrika

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QObject>
+#include <QtQmlIntegration>
+
+namespace nutrika {
+
+/// Which sample data a screen shows at design time; the running module always uses NotPreview.
+namespace Preview {
+Q_NAMESPACE
+QML_ELEMENT
+enum Value { Main, ShowPicker, Recipes, NotPreview };
+Q_ENUM_NS(Value)
+} // namespace Preview
+
+} // namespace nutrika

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "FoodSearchRequest.h"
+#include "NutrientsRequest.h"
+
+#include <QObject>
+#include <QString>
+#include <functional>
+
+/// Sends one request through its public function and reports the outcome as a short text.
+using Probe = std::function<void(QObject *context, std::function<void(const QString &)> report)>;
+Q_DECLARE_METATYPE(Probe)
+
+namespace probe {
+[[nodiscard]] Probe foodSearch(const nutrika::FoodSearchQuery &query);
+[[nodiscard]] Probe filterOptions(const QString &search);
+[[nodiscard]] Probe portions(qint64 foodId);
+[[nodiscard]] Probe nutrients(const nutrika::FoodItem &food, const nutrika::PortionItem &portion);
+[[nodiscard]] Probe accompanyingFoods(qint64 foodId);
+[[nodiscard]] Probe thumbnail(qint64 portionId);
+[[nodiscard]] Probe picture(qint64 portionId);
+
+/// Runs the probe, spinning the event loop until it reports; an empty text if it never does.
+[[nodiscard]] QString run(const Probe &probe);
+} // namespace probe

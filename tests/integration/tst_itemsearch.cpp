@@ -1,0 +1,226 @@
+#include "ApiKey.h"
+#include "EnvironmentVariables.h"
+#include "FoodServiceProcess.h"
+#include "ItemSearchUIView.h"
+#include "RecordingServer.h"
+#include "StdoutCapture.h"
+
+#include <QTcpServer>
+#include <QTest>
+#include <QUrlQuery>
+
+using namespace nutrika;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QByteArray page(int count, int generic, int branded)
+{
+    QByteArray results;
+    for (int i = 0; i < generic + branded; ++i) {
+        const bool isGeneric = i < generic;
+        results += (i ? "," : "") + QByteArray(R"({"id":)") + QByteArray::number(1000 + i) +
+                   R"(,"description":"Food )" + QByteArray::number(i) + R"(","food_brand":")" +
+                   (isGeneric ? "" : "Acme") + R"(","is_generic_item":)" + (isGeneric ? "1" : "0") + "}";
+    }
+    return R"({"count":)" + QByteArray::number(count) + R"(,"next":null,"results":[)" + results + "]}";
+}
+
+/// The query of each recorded food search, in order (the filter-option requests left out).
+QList<QUrlQuery> searches(const RecordingServer &server)
+{
+    QList<QUrlQuery> queries;
+    for (const RecordingServer::Request &request : server.requests()) {
+        const QByteArray target = request.requestLine.split(' ').value(1);
+        if (target.startsWith("/api/v1/healthcare//food?"))
+            queries.append(QUrlQuery(QString::fromUtf8(target.mid(target.indexOf('?') + 1))));
+    }
+    return queries;
+}
+
+QStringList offsets(const RecordingServer &server)
+{
+    QStringList result;
+    for (const QUrlQuery &query : searches(server))
+        result << query.queryItemValue(u"offset"_s);
+    return result;
+}
+
+} // namespace
+
+class ItemSearchTest : public QObject
+{
+    Q_OBJECT
+
+    static void settle(const ItemSearchUIView &view, const RecordingServer &server, qsizetype requests)
+    {
+        QTRY_COMPARE(server.requests().size(), requests);
+        QTRY_VERIFY(!view.isLoading());
+    }
+
+private slots:
+    void init() { qputenv("NUTRIKA_CA_CERT", (RecordingServer::tlsDirectory() + u"/ca.pem"_s).toUtf8()); }
+
+    void pagesFollowTheOffsetAndTheFilters()
+    {
+        RecordingServer server;
+        server.setReply({200, page(120, 2, 0)});
+        qputenv("NUTRIKA_SERVICE_ORIGIN", server.origin().toUtf8());
+        ItemSearchUIView view;
+
+        view.onFinishTyping(u"banana"_s);
+        settle(view, server, 2);
+        QCOMPARE(view.countText(), u"120 items matching your search"_s);
+        QCOMPARE(view.brandOptions(), QStringList{ItemSearchUIView::ALL_BRANDS});
+        for (int pageNumber = 1; pageNumber <= 3; ++pageNumber) {
+            view.rowAppeared(false, int(view.nonBrandedResults().size()) - 1);
+            view.rowAppeared(false, int(view.nonBrandedResults().size()) - 1); // already on its way
+            settle(view, server, 2 + pageNumber);
+        }
+        QCOMPARE(offsets(server), (QStringList{u"0"_s, u"50"_s, u"100"_s, u"150"_s}));
+        QCOMPARE(view.offset(), 200);
+        QCOMPARE(view.nonBrandedResults().size(), 8);
+
+        view.setBrandFilterValue(ItemSearchUIView::ALL_BRANDS);
+        view.setCategoryFilterValue(u"Fruits and Fruit Juices"_s);
+        view.filterDone();
+        settle(view, server, 6);
+        QUrlQuery last = searches(server).last();
+        QCOMPARE(last.queryItemValue(u"offset"_s), u"0"_s);
+        QCOMPARE(last.queryItemValue(u"food_brand"_s), QString());
+        QVERIFY(last.hasQueryItem(u"food_brand"_s));
+        QCOMPARE(last.queryItemValue(u"food_category"_s), u"Fruits and Fruit Juices"_s);
+        QCOMPARE(view.nonBrandedResults().size(), 2); // the first page replaced the lists
+
+        view.setBrandFilterValue(u"Dole"_s);
+        view.onFinishTyping(u"pineapple"_s);
+        settle(view, server, 8);
+        last = searches(server).last();
+        QCOMPARE(last.queryItemValue(u"food_brand"_s), u"Dole"_s);
+        QCOMPARE(last.queryItemValue(u"search"_s), u"pineapple"_s);
+    }
+
+    void onlyTheLastRowOfThePagingSectionLoadsMore_data()
+    {
+        QTest::addColumn<int>("generic");
+        QTest::addColumn<int>("branded");
+        QTest::addColumn<bool>("fromBranded");
+        QTest::addColumn<int>("index");
+        QTest::addColumn<bool>("loads");
+        QTest::newRow("last generic, no branded") << 3 << 0 << false << 2 << true;
+        QTest::newRow("earlier generic") << 3 << 0 << false << 1 << false;
+        QTest::newRow("last generic, branded below") << 3 << 2 << false << 2 << false;
+        QTest::newRow("last branded") << 3 << 2 << true << 1 << true;
+        QTest::newRow("earlier branded") << 3 << 2 << true << 0 << false;
+    }
+
+    void onlyTheLastRowOfThePagingSectionLoadsMore()
+    {
+        QFETCH(int, generic);
+        QFETCH(int, branded);
+        QFETCH(bool, fromBranded);
+        QFETCH(int, index);
+        QFETCH(bool, loads);
+        RecordingServer server;
+        server.setReply({200, page(100, generic, branded)});
+        qputenv("NUTRIKA_SERVICE_ORIGIN", server.origin().toUtf8());
+        ItemSearchUIView view;
+        view.onFinishTyping(u"apple"_s);
+        settle(view, server, 2);
+
+        view.rowAppeared(fromBranded, index);
+        QTest::qWait(loads ? 0 : 200);
+        settle(view, server, loads ? 3 : 2);
+    }
+
+    void failuresRaiseTheAlertAndKeepThePage_data()
+    {
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("body");
+        QTest::newRow("connection refused") << 0 << u"Connection Error"_s
+                                            << u"Unable to connect to server, try again later"_s;
+        QTest::newRow("server error") << 500 << u"Error"_s << u"Error loading data"_s;
+        QTest::newRow("not found") << 404 << u"Error"_s << u"Error loading data"_s;
+        QTest::newRow("not JSON") << 200 << u"Error"_s << u"Error loading data"_s;
+    }
+
+    void failuresRaiseTheAlertAndKeepThePage()
+    {
+        QFETCH(int, status);
+        QFETCH(QString, title);
+        QFETCH(QString, body);
+        QTcpServer closed;
+        closed.listen(QHostAddress::LocalHost, 0);
+        const quint16 closedPort = closed.serverPort();
+        closed.close();
+        RecordingServer server;
+        server.setReply({status, status == 200 ? QByteArray("<html>") : QByteArray(R"({"detail":"x"})")});
+        qputenv("NUTRIKA_SERVICE_ORIGIN", status == 0 ? "https://127.0.0.1:" + QByteArray::number(closedPort)
+                                                      : server.origin().toUtf8());
+        ItemSearchUIView view;
+        QCOMPARE(view.errorMessageTitle(), u"Error"_s);
+        QCOMPARE(view.errorMessageBody(), u"An Unknown Error Has Occoured"_s);
+
+        StdoutCapture capture;
+        view.onFinishTyping(u"banana"_s);
+        QTRY_VERIFY(view.showErrorMessage());
+        QCOMPARE(view.errorMessageTitle(), title);
+        QCOMPARE(view.errorMessageBody(), body);
+        QVERIFY(!view.isLoading());
+        QCOMPARE(view.offset(), 0);
+        QTRY_VERIFY(capture.lines().contains(body.toUtf8()));
+        view.setShowErrorMessage(false);
+        QCOMPARE(view.errorMessageTitle(), title); // the texts stay until the next failure
+    }
+
+    void searchesTheRealService()
+    {
+        FoodServiceProcess service(QStringLiteral(NUTRIKA_FOOD_DB));
+        QVERIFY2(service.isReady(), qPrintable(service.errorString()));
+        qputenv("NUTRIKA_SERVICE_ORIGIN", service.origin().toUtf8());
+        qputenv("NUTRIKA_CA_CERT", service.caPath().toUtf8());
+        API_KEY = service.apiKey();
+        ItemSearchUIView view;
+
+        view.onFinishTyping(u"banana"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(view.offset() == 50, 10000);
+        QVERIFY(!view.showErrorMessage());
+        QVERIFY(view.numSearchResults() > 1);
+        QCOMPARE(view.nonBrandedResults().first().description, u"Bananas, raw"_s);
+        QTRY_VERIFY(view.categoryOptions().size() > 1);
+        QCOMPARE(view.categoryOptions().first(), ItemSearchUIView::ALL_CATEGORIES);
+
+        view.selectRow(1);
+        QCOMPARE(EnvironmentVariables::shared()->portionActive(), view.nonBrandedResults().first().id);
+    }
+
+    void countLine_data()
+    {
+        QTest::addColumn<int>("count");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("none") << 0 << u"0 items matching your search"_s;
+        QTest::newRow("one") << 1 << u"1 item matching your search"_s;
+        QTest::newRow("two") << 2 << u"2 items matching your search"_s;
+    }
+
+    void countLine()
+    {
+        QFETCH(int, count);
+        QFETCH(QString, text);
+        RecordingServer server;
+        server.setReply({200, page(count, 0, 0)});
+        qputenv("NUTRIKA_SERVICE_ORIGIN", server.origin().toUtf8());
+        ItemSearchUIView view;
+        QCOMPARE(view.countText(), QString());
+        view.onFinishTyping(u"x"_s);
+        settle(view, server, 2);
+        QCOMPARE(view.countText(), text);
+        view.onFinishTyping(QString());
+        QCOMPARE(view.countText(), QString()); // hidden again, the lists stay
+        QCOMPARE(server.requests().size(), 2);
+    }
+};
+
+QTEST_MAIN(ItemSearchTest)
+#include "tst_itemsearch.moc"
