@@ -7,7 +7,7 @@
 #include <QCommandLineParser>
 #include <QQmlComponent>
 #include <QQmlEngine>
-#include <QQuickWidget>
+#include <QQuickView>
 #include <QQuickWindow>
 #include <cstdio>
 
@@ -29,20 +29,24 @@ int fail(const QString &message)
     return 1;
 }
 
-QWidget *previewWidget(const QString &screen)
+// A QML host: the preview is the module's root item in a plain Qt Quick window.
+int showPreview(const QString &screen, const QString &screenshot)
 {
-    auto *view = new QQuickWidget;
-    view->setWindowTitle(u"Nutrika preview: "_s + screen);
-    view->setResizeMode(QQuickWidget::SizeRootObjectToView);
-    nutrika::prepareNutrikaEngine(*view->engine());
-    auto *component = new QQmlComponent(view->engine(), view);
-    component->setData(previews.value(screen), QUrl(u"preview.qml"_s));
-    QObject *root = component->create();
+    QQuickView view;
+    view.setTitle(u"Nutrika preview: "_s + screen);
+    view.setResizeMode(QQuickView::SizeRootObjectToView);
+    nutrika::prepareNutrikaEngine(*view.engine());
+    QQmlComponent component(view.engine());
+    component.setData(previews.value(screen), QUrl(u"preview.qml"_s));
+    QObject *root = component.create();
     if (!root)
-        std::fprintf(stderr, "nutrika-demo: %s\n", qPrintable(component->errorString()));
-    view->setContent(QUrl(u"preview.qml"_s), component, root);
-    view->resize(previewSize);
-    return view;
+        return fail(component.errorString());
+    view.setContent(QUrl(u"preview.qml"_s), &component, root);
+    view.resize(previewSize);
+    view.show();
+    if (!screenshot.isEmpty())
+        saveScreenshotAndQuit(&view, screenshot);
+    return QGuiApplication::exec();
 }
 
 } // namespace
@@ -55,39 +59,45 @@ int main(int argc, char *argv[])
     if (qgetenv("QT_QPA_PLATFORM") == "offscreen")
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
 
-    QApplication app(argc, argv);
-    QApplication::setApplicationName(u"nutrika-demo"_s);
     QCommandLineParser parser;
     parser.setApplicationDescription(u"A host application that opens the Nutrika carb calculator."_s);
-    parser.addHelpOption();
+    const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption preview(u"preview"_s, u"Show <screen> with sample data (calculator)."_s, u"screen"_s);
     const QCommandLineOption screenshot(u"screenshot"_s, u"Save the view as <file.png> and exit."_s, u"file.png"_s);
     parser.addOptions({preview, screenshot});
-    parser.process(app);
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    if (!parser.parse(arguments))
+        return fail(parser.errorText());
+    if (parser.isSet(help)) {
+        std::fputs(qPrintable(parser.helpText()), stdout);
+        return 0;
+    }
+    const QString shot = parser.isSet(screenshot) ? parser.value(screenshot) : QString();
 
+    // A preview needs no widgets: the module is shown the way a QML host embeds it.
     if (parser.isSet(preview)) {
+        QGuiApplication app(argc, argv);
         const QString screen = parser.value(preview);
         if (!previews.contains(screen))
             return fail(u"no preview of \"%1\"; screens with a preview: %2"_s.arg(screen, previews.keys().join(u", "_s)));
-        QWidget *view = previewWidget(screen);
-        view->show();
-        if (parser.isSet(screenshot))
-            saveScreenshotAndQuit(view, parser.value(screenshot));
-        return QApplication::exec();
+        return showPreview(screen, shot);
     }
 
+    QApplication app(argc, argv);
     FoodService service;
     if (!service.start())
         return fail(u"cannot start the food-data service: "_s + service.errorString());
     qputenv("NUTRIKA_SERVICE_ORIGIN", service.origin().toUtf8());
     qputenv("NUTRIKA_CA_CERT", service.caPath().toUtf8());
 
-    if (parser.isSet(screenshot)) {
+    if (!shot.isEmpty()) {
         QWidget *module = nutrika::initNutrika(service.apiKey(), [] {});
         module->setWindowState(Qt::WindowNoState);
         module->resize(previewSize);
         module->show();
-        saveScreenshotAndQuit(module, parser.value(screenshot));
+        saveScreenshotAndQuit(module, shot);
         return QApplication::exec();
     }
 

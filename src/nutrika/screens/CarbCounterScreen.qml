@@ -19,37 +19,10 @@ FocusScope {
         backButton: false
         presentationMode: screen.presentationMode
 
-        Item {
+        CalculatorColumnHeader {
             id: columnHeader
             width: parent.width
-            implicitHeight: headerRow.implicitHeight
-            height: implicitHeight
-            RowLayout {
-                id: headerRow
-                anchors.fill: parent
-                spacing: 8
-                Text {
-                    Layout.fillWidth: true
-                    Layout.margins: 16
-                    text: qsTr("Food/Drink")
-                    font.bold: true
-                    font.pixelSize: Look.bodySize
-                }
-                Text {
-                    Layout.maximumWidth: 170
-                    Layout.margins: 16
-                    text: screen.uiView.counterHeader
-                    font.bold: true
-                    font.pixelSize: Look.bodySize
-                    wrapMode: Text.WordWrap
-                }
-            }
-            EdgeBorder {
-                anchors.fill: parent
-                lineWidth: 2
-                edges: [EdgeBorder.Bottom]
-                color: Look.lightGray
-            }
+            counterHeader: screen.uiView.counterHeader
         }
 
         ListView {
@@ -80,33 +53,9 @@ FocusScope {
                 onRemoved: screen.uiView.remove(index)
             }
 
-            footer: Rectangle {
-                objectName: "totalRow"
+            footer: CalculatorTotalRow {
                 width: lineList.width
-                implicitHeight: totalLayout.implicitHeight + 32
-                color: Look.detailColor
-                Accessible.role: Accessible.StaticText
-                Accessible.name: qsTr("Total %1").arg(screen.uiView.totalText)
-                RowLayout {
-                    id: totalLayout
-                    anchors.fill: parent
-                    anchors.margins: 16
-                    Text {
-                        Layout.fillWidth: true
-                        text: qsTr("Total")
-                        font.bold: true
-                        font.pixelSize: Look.bodySize
-                        color: Look.titleText
-                    }
-                    Text {
-                        objectName: "totalAmount"
-                        Layout.maximumWidth: 170
-                        text: screen.uiView.totalText
-                        font.bold: true
-                        font.pixelSize: Look.bodySize
-                        color: Look.titleText
-                    }
-                }
+                amount: screen.uiView.totalText
             }
         }
 

@@ -153,7 +153,7 @@ void CarbCounterUIView::getAccompanimentData()
         self->m_accompanimentListItems.append(*foods);
         emit self->accompanimentListItemsChanged();
         if (!self->m_accompanimentListItems.isEmpty() && !self->m_showAccompanimentList) {
-            QTimer::singleShot(accompanimentDelayMs, self, [self] { self->setShowAccompanimentList(true); });
+            QTimer::singleShot(accompanimentDelayMs, Qt::PreciseTimer, self, [self] { self->setShowAccompanimentList(true); });
         }
     });
 }

@@ -98,8 +98,12 @@ void ItemSearchUIView::filterDone()
 
 void ItemSearchUIView::selectRow(int row)
 {
-    if (const FoodItem *food = m_results.foodAt(row))
-        EnvironmentVariables::shared()->setPortionActive(food->id);
+    const FoodItem *food = m_results.foodAt(row);
+    if (!food)
+        return;
+    m_selectedFood = *food;
+    emit selectedFoodChanged();
+    EnvironmentVariables::shared()->setPortionActive(food->id);
 }
 
 void ItemSearchUIView::showError(const QString &body, const QString &title)

@@ -31,6 +31,8 @@ class ItemSearchUIView : public QObject
     Q_PROPERTY(QString errorMessageTitle READ errorMessageTitle NOTIFY errorMessageChanged)
     Q_PROPERTY(QString errorMessageBody READ errorMessageBody NOTIFY errorMessageChanged)
     Q_PROPERTY(qint64 offset READ offset NOTIFY offsetChanged)
+    /// The food whose row was tapped last; its portion screen is pushed while portionActive names it.
+    Q_PROPERTY(nutrika::FoodItem selectedFood READ selectedFood NOTIFY selectedFoodChanged)
 
 public:
     static inline const QString ALL_BRANDS = QStringLiteral("All Brands");
@@ -71,6 +73,7 @@ public:
     [[nodiscard]] const QString &errorMessageTitle() const { return m_errorMessageTitle; }
     [[nodiscard]] const QString &errorMessageBody() const { return m_errorMessageBody; }
     [[nodiscard]] qint64 offset() const { return m_offset; }
+    [[nodiscard]] const FoodItem &selectedFood() const { return m_selectedFood; }
 
 signals:
     void debouncedTextChanged();
@@ -84,6 +87,7 @@ signals:
     void showErrorMessageChanged();
     void errorMessageChanged();
     void offsetChanged();
+    void selectedFoodChanged();
 
 private:
     void restartSearch();
@@ -102,6 +106,7 @@ private:
     QString m_errorMessageTitle = QStringLiteral("Error");
     QString m_errorMessageBody = QStringLiteral("An Unknown Error Has Occoured");
     qint64 m_offset = 0;
+    FoodItem m_selectedFood{QString(), -1, -1, QString(), false};
     // Replies to an earlier text or filter choice are dropped, so a slow old reply never overwrites
     // newer results; and a page already on its way is not asked for twice.
     quint64 m_generation = 0;

@@ -15,6 +15,7 @@ void SearchContainerUIView::setTabOption(int tab)
 void SearchContainerUIView::contentAppeared()
 {
     EnvironmentVariables::shared()->setEditRecipeActive(false);
+    emit appeared();
 }
 
 } // namespace nutrika

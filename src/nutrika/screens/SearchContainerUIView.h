@@ -27,6 +27,8 @@ public:
 
 signals:
     void tabOptionChanged();
+    /// The content was shown: on a tab switch and on coming back from a pushed screen.
+    void appeared();
 
 private:
     int m_tabOption = 0;

@@ -16,7 +16,7 @@ std::optional<QStringList> labels(const QJsonValue &options)
 {
     QStringList result;
     for (const QJsonValue option : options.toArray()) {
-        std::optional<QString> label = option.isObject() ? lenient::string(option.toObject().value(u"label"))
+        std::optional<QString> label = option.isObject() ? lenient::string(option.toObject().value("label"_L1))
                                                          : lenient::string(option);
         if (!label)
             return std::nullopt;
@@ -42,8 +42,8 @@ ServiceResult<FilterOptions> mapFilterOptionsReply(const ServiceReply &reply)
     if (!hasJsonBody(reply) || !reply.json.isObject())
         return failureOf(reply);
     const QJsonObject root = reply.json.object();
-    std::optional<QStringList> brands = labels(root.value(u"brands"));
-    std::optional<QStringList> categories = labels(root.value(u"categories"));
+    std::optional<QStringList> brands = labels(root.value("brands"_L1));
+    std::optional<QStringList> categories = labels(root.value("categories"_L1));
     if (!brands || !categories)
         return ServiceFailure::ServerError;
     return FilterOptions{std::move(*brands), std::move(*categories)};

@@ -30,8 +30,8 @@ ServiceResult<FoodSearchPage> mapFoodSearchReply(const ServiceReply &reply)
     if (!hasJsonBody(reply) || !reply.json.isObject())
         return failureOf(reply);
     const QJsonObject root = reply.json.object();
-    const std::optional<qint64> count = lenient::integer(root.value(u"count"));
-    const QJsonValue results = root.value(u"results");
+    const std::optional<qint64> count = lenient::integer(root.value("count"_L1));
+    const QJsonValue results = root.value("results"_L1);
     if (!count || !results.isArray())
         return ServiceFailure::ServerError;
 

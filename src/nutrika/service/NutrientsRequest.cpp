@@ -49,9 +49,12 @@ ServiceResult<PortionNutrients> mapNutrientsReply(const ServiceReply &reply)
     if (!hasJsonBody(reply) || !reply.json.isObject())
         return failureOf(reply);
     const QJsonObject root = reply.json.object();
+    const QJsonArray macronutrients = root.value("macronutrients"_L1).toArray();
+    const QJsonArray micronutrients = root.value("micronutrients"_L1).toArray();
     PortionNutrients result;
-    for (const QStringView group : {u"macronutrients", u"micronutrients"}) {
-        for (const QJsonValue element : root.value(group).toArray()) {
+    result.nutrients.reserve(macronutrients.size() + micronutrients.size());
+    for (const QJsonArray &group : {macronutrients, micronutrients}) {
+        for (const QJsonValue element : group) {
             std::optional<NutrientValue> value = nutrientValue(element);
             if (!value)
                 continue;

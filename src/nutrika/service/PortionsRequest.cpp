@@ -17,12 +17,12 @@ std::optional<ConvertibleUnit> convertibleUnit(const QJsonValue &value)
     if (!value.isObject())
         return std::nullopt;
     const QJsonObject o = value.toObject();
-    std::optional<QString> type = lenient::string(o.value(u"type"));
-    const std::optional<qint64> isBase = lenient::integer(o.value(u"is_base"));
-    const std::optional<qint64> id = lenient::integer(o.value(u"id"));
-    const std::optional<qint64> rate = lenient::integer(o.value(u"to_base_conversion_rate"));
-    std::optional<QString> name = lenient::string(o.value(u"name"));
-    std::optional<QString> unit = lenient::string(o.value(u"unit"));
+    std::optional<QString> type = lenient::string(o.value("type"_L1));
+    const std::optional<qint64> isBase = lenient::integer(o.value("is_base"_L1));
+    const std::optional<qint64> id = lenient::integer(o.value("id"_L1));
+    const std::optional<qint64> rate = lenient::integer(o.value("to_base_conversion_rate"_L1));
+    std::optional<QString> name = lenient::string(o.value("name"_L1));
+    std::optional<QString> unit = lenient::string(o.value("unit"_L1));
     if (!type || !isBase || !id || !rate || !name || !unit)
         return std::nullopt;
     return ConvertibleUnit{std::move(*type), *isBase, *id, *rate, std::move(*name), std::move(*unit)};
@@ -31,18 +31,18 @@ std::optional<ConvertibleUnit> convertibleUnit(const QJsonValue &value)
 std::optional<PortionItem> portion(const QJsonValue &value)
 {
     const QJsonObject o = value.toObject();
-    const std::optional<qint64> orderNum = lenient::integer(o.value(u"order_num"));
-    const std::optional<qint64> id = lenient::integer(o.value(u"id"));
-    std::optional<QString> unit = lenient::string(o.value(u"unit"));
-    const std::optional<qint64> databaseImport = lenient::integer(o.value(u"database_import"));
-    const std::optional<qint64> size = lenient::integer(o.value(u"size"));
-    std::optional<QString> imageName = lenient::string(o.value(u"image_name"));
-    std::optional<QString> description = lenient::string(o.value(u"description"));
-    std::optional<ConvertibleUnit> convertible = convertibleUnit(o.value(u"convertible_unit"));
+    const std::optional<qint64> orderNum = lenient::integer(o.value("order_num"_L1));
+    const std::optional<qint64> id = lenient::integer(o.value("id"_L1));
+    std::optional<QString> unit = lenient::string(o.value("unit"_L1));
+    const std::optional<qint64> databaseImport = lenient::integer(o.value("database_import"_L1));
+    const std::optional<qint64> size = lenient::integer(o.value("size"_L1));
+    std::optional<QString> imageName = lenient::string(o.value("image_name"_L1));
+    std::optional<QString> description = lenient::string(o.value("description"_L1));
+    std::optional<ConvertibleUnit> convertible = convertibleUnit(o.value("convertible_unit"_L1));
     if (!orderNum || !id || !unit || !databaseImport || !size || !imageName || !description || !convertible)
         return std::nullopt;
 
-    const QJsonValue isDefault = o.value(u"is_default");
+    const QJsonValue isDefault = o.value("is_default"_L1);
     return PortionItem{*orderNum,
                        *id,
                        *id,
@@ -66,7 +66,7 @@ ServiceResult<QList<PortionItem>> mapPortionsReply(const ServiceReply &reply)
 {
     if (!hasJsonBody(reply))
         return failureOf(reply);
-    const QJsonValue portions = reply.json.object().value(u"portions");
+    const QJsonValue portions = reply.json.object().value("portions"_L1);
     if (!portions.isArray())
         return ServiceFailure::ServerError;
 

@@ -8,6 +8,8 @@ namespace nutrika {
 NumberStepper::NumberStepper(QObject *parent)
     : QObject(parent)
 {
+    m_recognizer.setTimerType(Qt::PreciseTimer);
+    m_timer.setTimerType(Qt::PreciseTimer);
     m_recognizer.setSingleShot(true);
     m_recognizer.setInterval(longPressDelayMs);
     connect(&m_recognizer, &QTimer::timeout, this, &NumberStepper::startRepeat);

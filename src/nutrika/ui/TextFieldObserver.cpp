@@ -5,6 +5,8 @@ namespace nutrika {
 TextFieldObserver::TextFieldObserver(QObject *parent)
     : QObject(parent)
 {
+    // A coarse timer may fire up to 5% early; the pause is a whole second.
+    m_debounce.setTimerType(Qt::PreciseTimer);
     m_debounce.setSingleShot(true);
     m_debounce.setInterval(debounceMs);
     connect(&m_debounce, &QTimer::timeout, this, [this] {

@@ -1,0 +1,133 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import QtQuick.Templates as T
+import QtQuick.Layouts
+import Nutrika
+
+// A filter button of the food search and its choice sheet. The wheel writes the chosen value at once;
+// only "Done" asks for a new search, closing the sheet any other way does not.
+Rectangle {
+    id: filter
+
+    property string title: ""
+    property string selectedFilterItem: ""
+    property var options: []
+    property bool enabledForText: false
+    readonly property alias isPresented: sheet.visible
+
+    signal choose(string value)
+    signal done()
+
+    implicitHeight: label.implicitHeight + 20
+    color: "white"
+    opacity: enabledForText ? 1.0 : 0.5
+    activeFocusOnTab: true
+    Accessible.role: Accessible.ComboBox
+    Accessible.name: title + ": " + (selectedFilterItem === "" ? qsTr("none") : selectedFilterItem)
+    Accessible.onPressAction: toggle()
+    Keys.onReturnPressed: toggle()
+    Keys.onEnterPressed: toggle()
+    Keys.onSpacePressed: toggle()
+
+    function toggle() {
+        if (enabledForText)
+            sheet.visible = !sheet.visible
+    }
+
+    TapHandler {
+        onTapped: filter.toggle()
+    }
+
+    Row {
+        id: label
+        anchors.centerIn: parent
+        spacing: 4
+        Text {
+            text: filter.selectedFilterItem === "" ? filter.title : filter.selectedFilterItem
+            font.pixelSize: Look.captionSize
+            font.bold: true
+            color: "#595959"
+            elide: Text.ElideRight
+            width: Math.min(implicitWidth, filter.width - 40)
+        }
+        Text {
+            text: Look.symbol("chevron.down")
+            font.family: Look.symbolFont
+            font.pixelSize: Look.captionSize
+            color: "#595959"
+            Accessible.ignored: true
+        }
+    }
+
+    Drawer {
+        id: sheet
+        objectName: "filterSheet"
+        parent: T.Overlay.overlay
+        edge: Qt.BottomEdge
+        width: parent ? parent.width : 0
+        height: 250
+        modal: true
+        onOpened: wheel.forceActiveFocus()
+
+        ColumnLayout {
+            anchors.fill: parent
+            spacing: 0
+            Item {
+                Layout.fillWidth: true
+                implicitHeight: 50
+                Text {
+                    anchors.centerIn: parent
+                    text: filter.title
+                    font.bold: true
+                    font.pixelSize: Look.bodySize
+                    Accessible.role: Accessible.Heading
+                    Accessible.name: text
+                }
+                ActionButton {
+                    objectName: "doneButton"
+                    anchors.right: parent.right
+                    anchors.rightMargin: 16
+                    anchors.verticalCenter: parent.verticalCenter
+                    implicitWidth: 60
+                    implicitHeight: 40
+                    text: qsTr("Done")
+                    bold: true
+                    textColor: Look.titleText
+                    onClicked: {
+                        sheet.close()
+                        filter.done()
+                    }
+                }
+            }
+            Tumbler {
+                id: wheel
+                objectName: "filterWheel"
+                Layout.fillWidth: true
+                Layout.fillHeight: true
+                model: filter.options
+                visibleItemCount: 5
+                currentIndex: Math.max(0, filter.options.indexOf(filter.selectedFilterItem))
+                onCurrentIndexChanged: if (sheet.visible && filter.options.length > 0)
+                                           filter.choose(filter.options[currentIndex])
+                Accessible.role: Accessible.List
+                Accessible.name: filter.title
+                Keys.onReturnPressed: doneOnKey()
+                Keys.onEnterPressed: doneOnKey()
+                function doneOnKey() {
+                    sheet.close()
+                    filter.done()
+                }
+                delegate: Text {
+                    required property string modelData
+                    required property int index
+                    text: modelData
+                    font.pixelSize: Look.bodySize
+                    color: "black"
+                    opacity: 1.0 - Math.abs(Tumbler.displacement) / (wheel.visibleItemCount / 2)
+                    horizontalAlignment: Text.AlignHCenter
+                    verticalAlignment: Text.AlignVCenter
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,63 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import QtQuick.Layouts
+import Nutrika
+
+// The look of SearchContainerUIView: the "Search" and "Meals" tabs under the "Search" frame.
+FocusScope {
+    id: screen
+
+    property SearchContainerUIView uiView: SearchContainerUIView {}
+    required property StackView navigation
+    property var presentationMode: null
+
+    // Coming back from a pushed screen shows the content again.
+    StackView.onActivated: uiView.contentAppeared()
+
+    ViewContainer {
+        anchors.fill: parent
+        titleText: qsTr("Search")
+        backButton: true
+        presentationMode: screen.presentationMode
+
+        ColumnLayout {
+            anchors.fill: parent
+            spacing: 10
+
+            CustomPickerUIView {
+                objectName: "tabPicker"
+                Layout.fillWidth: true
+                Layout.leftMargin: 16
+                Layout.rightMargin: 16
+                Layout.topMargin: 10
+                options: screen.uiView.options
+                selected: screen.uiView.tabOption
+                onSelect: index => screen.uiView.tabOption = index
+            }
+
+            // A switch of tabs builds the chosen screen afresh.
+            Loader {
+                id: content
+                objectName: "tabContent"
+                Layout.fillWidth: true
+                Layout.fillHeight: true
+                focus: true
+                sourceComponent: screen.uiView.tabOption === 0 ? foodSearch
+                               : screen.uiView.tabOption === 1 ? mealSearch : null
+                onLoaded: screen.uiView.contentAppeared()
+            }
+        }
+    }
+
+    Component {
+        id: foodSearch
+        ItemSearchScreen { navigation: screen.navigation }
+    }
+    Component {
+        id: mealSearch
+        RecipeSearchScreen {
+            navigation: screen.navigation
+            container: screen.uiView
+        }
+    }
+}
