@@ -23,8 +23,10 @@ TestCase {
     function init() { SessionProbe.reset() }
 
     function shoot(item, name) {
-        if (SessionProbe.screenshotDir !== "")
-            grabImage(item).save(SessionProbe.screenshotDir + "/" + name + ".png")
+        if (SessionProbe.screenshotDir === "")
+            return
+        waitForRendering(item)
+        grabImage(item).save(SessionProbe.screenshotDir + "/" + name + ".png")
     }
 
     // The lines are shown once the list has built a delegate for each.
@@ -65,10 +67,19 @@ TestCase {
 
     function test_anEmptyCalculatorAsksForTheSearch() {
         const root = createTemporaryObject(liveComponent, testCase)
+        const calculator = root.navigation.get(0)
         tryCompare(EnvironmentVariables, "searchActive", true)
-        compare(findChild(root, "lineList").count, 0)
-        compare(findChild(root, "totalAmount").text, "0 g")
-        compare(findChild(root, "backRow").visible, false) // the calculator offers neither back nor "Close"
+        compare(findChild(calculator, "lineList").count, 0)
+        compare(findChild(calculator, "totalAmount").text, "0 g")
+        compare(findChild(calculator, "backRow").visible, false) // neither back nor "Close" here
+        // The search container is pushed once its look is part of the module.
+        const searchLook = Destinations.screen("SearchContainerUIView").toString() !== ""
+        tryCompare(root.navigation, "depth", searchLook ? 2 : 1)
+        tryCompare(root.navigation, "busy", false)
+        shoot(root, "calculator-empty-opens-search")
+        EnvironmentVariables.searchActive = false
+        tryCompare(root.navigation, "depth", 1)
+        tryCompare(root.navigation, "busy", false)
         shoot(root, "calculator-empty")
     }
 

@@ -86,6 +86,8 @@ FocusScope {
             clip: true
             model: screen.uiView.results
             boundsBehavior: Flickable.StopAtBounds
+            // Rows beyond the visible ones are built while scrolling, not before the first page shows.
+            cacheBuffer: 0
             Accessible.role: Accessible.List
             Accessible.name: qsTr("Search results")
 
