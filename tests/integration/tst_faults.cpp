@@ -153,6 +153,21 @@ private slots:
         QVERIFY(!loggedMessages.join(u'\n').contains(secretKey));
     }
 
+    void refusesAKeyThatWouldBreakTheHeader()
+    {
+        RecordingServer server;
+        server.setReply({200, searchPage});
+        qputenv("NUTRIKA_SERVICE_ORIGIN", server.origin().toUtf8());
+        API_KEY = secretKey + u"\r\nX-Injected: 1"_s;
+        StdoutCapture capture;
+        const QString outcome = probe::run(probe::foodSearch({u"banana"_s, 0, QString(), QString()}));
+        API_KEY = secretKey;
+        QCOMPARE(outcome, u"Connection Error"_s);
+        QCOMPARE(capture.lines(), QList<QByteArray>{"Unable to connect to server, try again later"});
+        QVERIFY(server.requests().isEmpty());
+        QVERIFY(!loggedMessages.join(u'\n').contains(secretKey));
+    }
+
     void dropsTheCompletionOfADestroyedContext()
     {
         RecordingServer server;

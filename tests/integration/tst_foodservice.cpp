@@ -90,17 +90,6 @@ private slots:
             QCOMPARE(food.brand, u"WENDY'S"_s);
     }
 
-    void pagesByOffset()
-    {
-        const std::optional<FoodSearchPage> first = search({u"milk"_s, 0, QString(), QString()});
-        const std::optional<FoodSearchPage> second = search({u"milk"_s, FOOD_SEARCH_PAGE_SIZE, QString(), QString()});
-        QVERIFY(first && second);
-        QCOMPARE(first->generic.size() + first->branded.size(), FOOD_SEARCH_PAGE_SIZE);
-        QCOMPARE(second->count, first->count);
-        for (const FoodItem &food : second->generic + second->branded)
-            QVERIFY(!first->generic.contains(food) && !first->branded.contains(food));
-    }
-
     void loadsFilterOptions()
     {
         const auto options = await<std::optional<FilterOptions>>(

@@ -12,8 +12,11 @@ void printDiagnostic(QStringView line)
 
 void printDiagnostic(QByteArrayView prefix, QByteArrayView utf8)
 {
-    std::fwrite(prefix.data(), 1, size_t(prefix.size()), stdout);
-    std::fwrite(utf8.data(), 1, size_t(utf8.size()), stdout);
+    // An empty view may carry a null pointer, which fwrite must not be given.
+    if (!prefix.isEmpty())
+        std::fwrite(prefix.data(), 1, size_t(prefix.size()), stdout);
+    if (!utf8.isEmpty())
+        std::fwrite(utf8.data(), 1, size_t(utf8.size()), stdout);
     std::fputc('\n', stdout);
     std::fflush(stdout);
 }
