@@ -22,7 +22,7 @@ QtObject {
     // The pushed screen while it is on the stack.
     property Item screen: null
     property bool backedOut: false
-    // A push in progress changes the stack's depth, which must not start a second push.
+    // A push in progress changes the stack's current item, which must not start a second push.
     property bool pushing: false
 
     signal dismissed()
@@ -51,10 +51,10 @@ QtObject {
             navigation.pop(navigation.get(index - 1))
     }
 
-    // Brings the stack in line with `active`; waits while a transition runs or before the stack holds
-    // its first screen.
+    // Brings the stack in line with `active`; waits while a transition runs and until the stack has
+    // finished showing its first screen.
     function sync() {
-        if (!navigation || navigation.busy || navigation.depth === 0 || pushing)
+        if (!navigation || navigation.busy || !navigation.currentItem || pushing)
             return
         if (screen && screen.StackView.index < 0) {
             // A link below this one popped the screen: it stays closed until the flag is written again.
@@ -84,6 +84,7 @@ QtObject {
     property Connections stackWatch: Connections {
         target: link.navigation
         function onBusyChanged() { link.sync() }
-        function onDepthChanged() { link.sync() }
+        // The stack announces its new screen before it has finished pushing it.
+        function onCurrentItemChanged() { Qt.callLater(link.sync) }
     }
 }

@@ -95,7 +95,9 @@ FocusScope {
         onAboutToShow: content.active = true
         // The list is built for each showing and let go after the choice that closed it has finished.
         onClosed: {
-            screen.uiView.showAccompanimentList = false
+            // Closed by Escape or a tap outside; a close that follows the flag leaves it as it is.
+            if (screen.uiView.showAccompanimentList)
+                screen.uiView.showAccompanimentList = false
             Qt.callLater(() => content.active = false)
         }
         background: Rectangle { radius: 14; color: "white"; border.color: Look.lightGray }

@@ -127,6 +127,7 @@ void AddToCalcPreviewUIView::update()
 
 void AddToCalcPreviewUIView::setLineQuantity(qint64 quantity)
 {
+    setQuantity(QString::number(quantity));
     if (m_diaryEntry)
         m_diaryEntry->setQuantity(quantity);
 }
@@ -145,6 +146,8 @@ void AddToCalcPreviewUIView::setPreview(Preview::Value preview)
 
 void AddToCalcPreviewUIView::setQuantity(const QString &quantity)
 {
+    if (quantity == m_quantity)
+        return;
     m_quantity = quantity;
     emit quantityChanged();
     emit carbohydratesChanged();

@@ -55,7 +55,7 @@ public:
     Q_INVOKABLE void searchMoreFoods();
     /// "Update": the calculator list reports the changed line; then the screen closes (closeRequested).
     Q_INVOKABLE void update();
-    /// The stepper's report: the line's quantity.
+    /// The stepper's report: its normalised text and the line's quantity.
     Q_INVOKABLE void setLineQuantity(qint64 quantity);
     /// The portion screen's answer in edit mode.
     Q_INVOKABLE void replacePortion(const nutrika::PortionItem &portion);

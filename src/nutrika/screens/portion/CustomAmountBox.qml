@@ -34,18 +34,22 @@ GridBoxContainer {
             id: field
             objectName: "customAmountField"
             Layout.fillWidth: true
-            text: box.uiView.customText
             placeholderText: ""
             inputMethodHints: Qt.ImhDigitsOnly
             color: "black"
             font.pixelSize: Look.bodySize
             Accessible.role: Accessible.EditableText
             Accessible.name: qsTr("Enter Amount (g)")
+            // A box scrolled back into view shows the amount typed before.
+            Component.onCompleted: text = box.uiView.customText
             onTextEdited: {
                 box.uiView.customText = text
-                // The view state decides what the field shows: only the digits.
-                if (text !== box.uiView.customText)
-                    text = Qt.binding(() => box.uiView.customText)
+                // The view state decides what the field shows: only the digits, the caret kept in place.
+                if (text !== box.uiView.customText) {
+                    const caret = cursorPosition - (text.length - box.uiView.customText.length)
+                    text = box.uiView.customText
+                    cursorPosition = Math.max(0, Math.min(caret, text.length))
+                }
             }
             onActiveFocusChanged: if (activeFocus) box.tapped()
             Keys.onReturnPressed: box.submitted()

@@ -108,7 +108,7 @@ FocusScope {
             Layout.fillHeight: true
             Layout.leftMargin: 10
             clip: true
-            cellWidth: screen.boxSize + 20
+            cellWidth: width / 2
             cellHeight: (screen.uiView.tabOption === 0 ? screen.boxSize : screen.boxSize / 2) + 16
             // The custom box, then the portions of the tab in force.
             model: screen.uiView.portionOptions.length + 1

@@ -64,7 +64,6 @@ ColumnLayout {
             max: 99999
             color: "white"
             value: table.uiView.quantity
-            onValueChanged: table.uiView.quantity = value
             onUpdated: v => table.uiView.setLineQuantity(v)
         }
     }
