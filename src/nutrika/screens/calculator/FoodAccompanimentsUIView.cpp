@@ -1,6 +1,7 @@
 #include "FoodAccompanimentsUIView.h"
 
 #include "EnvironmentVariables.h"
+#include "ExampleData.h"
 
 namespace nutrika {
 
@@ -49,6 +50,14 @@ void FoodAccompanimentsUIView::setItemsVariant(const QVariantList &items)
             foods.append(item.value<FoodItem>());
     }
     setItems(foods);
+}
+
+void FoodAccompanimentsUIView::setPreview(Preview::Value preview)
+{
+    m_preview = preview;
+    if (preview != Preview::NotPreview)
+        m_items = {example::exampleSelectedFood(), example::exampleSelectedFood2()};
+    emit itemsChanged();
 }
 
 void FoodAccompanimentsUIView::setIsPresented(bool presented)

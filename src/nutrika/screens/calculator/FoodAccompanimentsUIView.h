@@ -1,6 +1,7 @@
 #pragma once
 
 #include "FoodItem.h"
+#include "Preview.h"
 
 #include <QList>
 #include <QObject>
@@ -20,6 +21,8 @@ class FoodAccompanimentsUIView : public QObject
     /// The suggested foods (FoodItem values), in the order given.
     Q_PROPERTY(QVariantList items READ itemsVariant WRITE setItemsVariant NOTIFY itemsChanged)
     Q_PROPERTY(bool isPresented READ isPresented WRITE setIsPresented NOTIFY isPresentedChanged)
+    /// Any mode but NotPreview shows the sample foods.
+    Q_PROPERTY(nutrika::Preview::Value preview READ preview WRITE setPreview NOTIFY itemsChanged)
 
 public:
     using QObject::QObject;
@@ -33,6 +36,8 @@ public:
     void setItems(const QList<FoodItem> &items);
     [[nodiscard]] QVariantList itemsVariant() const;
     void setItemsVariant(const QVariantList &items);
+    [[nodiscard]] Preview::Value preview() const { return m_preview; }
+    void setPreview(Preview::Value preview);
     [[nodiscard]] bool isPresented() const { return m_isPresented; }
     void setIsPresented(bool presented);
 
@@ -45,6 +50,7 @@ signals:
 private:
     QList<FoodItem> m_items;
     bool m_isPresented = true;
+    Preview::Value m_preview = Preview::NotPreview;
 };
 
 } // namespace nutrika

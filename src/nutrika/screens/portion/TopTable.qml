@@ -26,23 +26,17 @@ ColumnLayout {
             font.pixelSize: Look.bodySize
             color: "black"
         }
-        Text {
-            visible: table.uiView.mode === AddToCalcPreviewUIView.AddNew
-            padding: 10
-            text: table.uiView.portionText
-            font.pixelSize: Look.bodySize
-            color: "black"
-            Accessible.role: Accessible.StaticText
-            Accessible.name: qsTr("Portion %1").arg(text)
-        }
+        // A link in blue while editing; in add mode plain black text that takes no tap.
         ActionButton {
+            readonly property bool editing: table.uiView.mode === AddToCalcPreviewUIView.Edit
             objectName: "portionLink"
-            visible: table.uiView.mode === AddToCalcPreviewUIView.Edit
-            implicitWidth: Math.max(60, contentItem.implicitWidth + 20)
-            implicitHeight: 40
+            Layout.preferredWidth: contentItem.implicitWidth + 20
+            Layout.preferredHeight: 40
+            enabled: editing
             text: table.uiView.portionText
-            textColor: "#0a5fd1"
-            Accessible.name: qsTr("Portion %1, change").arg(text)
+            textColor: editing ? "#0a5fd1" : "black"
+            focusPolicy: editing ? Qt.StrongFocus : Qt.NoFocus
+            Accessible.name: editing ? qsTr("Portion %1, change").arg(text) : qsTr("Portion %1").arg(text)
             onClicked: table.portionTapped()
         }
     }
