@@ -26,8 +26,9 @@ FocusScope {
         else
             uiView.startAdding(selectedFood, selectedPortion)
     }
-    // Shown again after the portion screen: the values of the portion now in force.
-    StackView.onActivated: uiView.appear()
+    // Asked for as the screen starts to show, and again after the portion screen: the values of the
+    // portion now in force.
+    StackView.onActivating: uiView.appear()
 
     Connections {
         target: screen.uiView

@@ -17,10 +17,9 @@ FocusScope {
     readonly property real boxSize: width / 2 - 20
 
     Component.onCompleted: uiView.hasCompleteCallback = onCompleteCallback !== null
-    StackView.onActivated: {
-        uiView.appear()
-        grid.forceActiveFocus()
-    }
+    // The portions are asked for as the screen starts to show, not after its transition.
+    StackView.onActivating: uiView.appear()
+    StackView.onActivated: grid.forceActiveFocus()
 
     Connections {
         target: screen.uiView
