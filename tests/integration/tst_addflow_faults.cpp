@@ -136,9 +136,23 @@ private slots:
         QCOMPARE(view.diaryEntry()->nutrients()->size(), 1);
         QVERIFY(!view.diaryEntry()->hasTrackedNutrient());
         QCOMPARE(view.carbohydratesText(), QString());
+        QVERIFY(!view.nutrientsFailed());
         view.add(); // still possible; the line counts nothing until an answer comes
         QCOMPARE(EnvironmentVariables::shared()->TrackedNutrientListItems().size(), 1);
         EnvironmentVariables::shared()->setTrackedNutrientListItems({});
+    }
+
+    // In edit mode a failed request keeps the line's value, which then belongs to the old portion.
+    void aFailedNutrientRequestIsShown()
+    {
+        server.setReply({500, QByteArray()});
+        AddToCalcPreviewUIView view;
+        view.startAdding(banana, example::examplePortionItem());
+        view.diaryEntry()->setTrackedNutrient(example::exampleNutrientCarb());
+        view.fetchNutrients();
+        QTRY_VERIFY(!view.isLoading());
+        QVERIFY(view.nutrientsFailed());
+        QCOMPARE(view.carbohydratesText(), u"12.9g"_s);
     }
 
     void accompanyingFoodsFailing()

@@ -97,6 +97,22 @@ FocusScope {
                 }
             }
 
+            // A failed request leaves the line's earlier value (it may belong to another portion):
+            // say so rather than let it pass for this portion's.
+            Text {
+                objectName: "nutrientsFailed"
+                visible: screen.uiView.nutrientsFailed
+                Layout.fillWidth: true
+                Layout.leftMargin: 16
+                Layout.rightMargin: 16
+                text: qsTr("The carbohydrates of this portion could not be loaded. Check the connection, then go back and open it again.")
+                wrapMode: Text.Wrap
+                font.pixelSize: Look.bodySize
+                color: "#b00020"
+                Accessible.role: Accessible.AlertMessage
+                Accessible.name: text
+            }
+
             Item { Layout.fillHeight: true }
 
             ActionButton {

@@ -86,6 +86,7 @@ void AddToCalcPreviewUIView::fetchNutrients()
                              entry->setTrackedNutrient(answer->trackedNutrient);
                          }
                          if (self) {
+                             self->m_nutrientsFailed = !answer;
                              --self->m_pendingRequests;
                              emit self->isLoadingChanged();
                          }

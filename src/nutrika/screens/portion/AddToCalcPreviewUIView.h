@@ -30,6 +30,8 @@ class AddToCalcPreviewUIView : public QObject
     Q_PROPERTY(QString carbohydratesText READ carbohydratesText NOTIFY carbohydratesChanged)
     /// A nutrient request for the current portion is on its way.
     Q_PROPERTY(bool isLoading READ isLoading NOTIFY isLoadingChanged)
+    /// The last nutrient request failed: the carbohydrates shown may not be those of this portion.
+    Q_PROPERTY(bool nutrientsFailed READ nutrientsFailed NOTIFY isLoadingChanged)
     /// "Add to meal" while a meal is being composed, else "Add to calculator".
     Q_PROPERTY(QString addButtonText READ addButtonText NOTIFY addButtonTextChanged)
 
@@ -72,6 +74,7 @@ public:
     [[nodiscard]] QString portionText() const;
     [[nodiscard]] QString carbohydratesText() const;
     [[nodiscard]] bool isLoading() const { return m_pendingRequests > 0; }
+    [[nodiscard]] bool nutrientsFailed() const { return m_nutrientsFailed; }
     [[nodiscard]] QString addButtonText() const;
 
 signals:
@@ -93,6 +96,7 @@ private:
     DiaryEntryPtr m_diaryEntry;
     QString m_quantity = QStringLiteral("1");
     int m_pendingRequests = 0;
+    bool m_nutrientsFailed = false;
     QList<QMetaObject::Connection> m_entryWatches;
 };
 
