@@ -8,10 +8,12 @@ import Nutrika
 // the full-size picture (a spinner until it arrives). Each opening asks for the picture anew.
 Popup {
     id: sheet
+    objectName: "fullImageSheet"
 
     required property var portion
     property bool loadsPictures: true
     readonly property bool showFullImage: opened
+    readonly property alias picture: picture
 
     parent: T.Overlay.overlay
     x: 0

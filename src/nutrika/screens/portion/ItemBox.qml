@@ -26,9 +26,10 @@ GridBoxContainer {
     // Each time the box comes into view its thumbnail is asked for anew.
     Component.onCompleted: if (isImage && loadsPictures) thumbnail.load()
 
-    TapHandler {
-        onTapped: box.tapped()
-        onDoubleTapped: sheet.open()
+    MouseArea {
+        anchors.fill: parent
+        onClicked: box.tapped()
+        onDoubleClicked: sheet.open()
     }
 
     ColumnLayout {

@@ -30,9 +30,11 @@ FocusScope {
         }
     }
 
-    // Selects the box at a grid index; the custom box also takes the typing.
-    function choose(index) {
-        grid.currentIndex = index
+    // Selects the box at a grid index; the custom box also takes the typing. A tap leaves the keyboard's
+    // current box alone: moving it would scroll the grid between the two taps of a double tap.
+    function choose(index, fromKeyboard) {
+        if (fromKeyboard)
+            grid.currentIndex = index
         if (index > 0) {
             uiView.selectBox(index - 1)
             return
@@ -42,7 +44,7 @@ FocusScope {
     }
 
     function chooseAndGoOn() {
-        choose(grid.currentIndex)
+        choose(grid.currentIndex, true)
         uiView.selectPortion()
     }
 
@@ -118,7 +120,7 @@ FocusScope {
             Accessible.role: Accessible.List
             Accessible.name: qsTr("Portions")
 
-            Keys.onSpacePressed: screen.choose(currentIndex)
+            Keys.onSpacePressed: screen.choose(currentIndex, true)
             Keys.onReturnPressed: screen.chooseAndGoOn()
             Keys.onEnterPressed: screen.chooseAndGoOn()
 
@@ -135,10 +137,7 @@ FocusScope {
                         boxSize: screen.boxSize
                         halfSize: screen.uiView.tabOption !== 0
                         current: grid.activeFocus && grid.currentIndex === 0
-                        onTapped: {
-                            grid.currentIndex = 0
-                            screen.uiView.selectCustom()
-                        }
+                        onTapped: screen.uiView.selectCustom()
                         onSubmitted: screen.uiView.selectPortion()
                     }
                 }
@@ -151,7 +150,7 @@ FocusScope {
                         boxSize: screen.boxSize
                         selected: screen.uiView.hasSelectedPortion && screen.uiView.selectedPortionId === portion._id
                         current: grid.activeFocus && grid.currentIndex === cell.index
-                        onTapped: screen.choose(cell.index)
+                        onTapped: screen.choose(cell.index, false)
                     }
                 }
             }
