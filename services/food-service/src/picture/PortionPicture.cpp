@@ -92,11 +92,8 @@ void drawVessels(cairo_t *cr, const PortionScene &scene, const PictureFonts &fon
     const double grow = std::sqrt(std::max(scene.capacityCups, 0.25));
     const bool bowl = scene.vessel == Vessel::Bowl;
     const bool beside = !bowl && scene.look.glyph != 0;
-    double width = std::min((bowl                            ? 0.42
-                             : scene.vessel == Vessel::Glass ? 0.2
-                                                             : 0.25) *
-                                grow,
-                            bowl ? 0.8 : 0.4);
+    const double oneCup = bowl ? 0.42 : scene.vessel == Vessel::Glass ? 0.2 : 0.25;
+    const double width = std::min(oneCup * grow, bowl ? 0.8 : 0.4);
     const double room = beside ? 0.58 : 0.86;
     const double spacing = std::min(width * 1.08, count > 1 ? (room - width) / (count - 1) : width);
     const double left = (beside ? 0.42 : 0.5) - (count - 1) * spacing / 2;
@@ -124,18 +121,19 @@ void drawVessels(cairo_t *cr, const PortionScene &scene, const PictureFonts &fon
     }
 }
 
+// The glyph behind, the spoons in front, lying across the plate one above the other.
 void drawSpoons(cairo_t *cr, const PortionScene &scene, const PictureFonts &fonts)
 {
     const int count = wholeCount(scene.count, mostVessels);
     const double scale = scene.vessel == Vessel::Tablespoon ? 1.3 : 0.95;
-    const double startX = scene.look.glyph != 0 ? 0.24 : 0.3;
+    const bool glyph = scene.look.glyph != 0;
+    if (glyph)
+        drawGlyph(cr, fonts, scene.look.glyph, 0.27, plateCentreY - 0.02, 0.3);
     for (int i = 0; i < count; ++i) {
         const double fill = i == count - 1 ? std::min(lastShare(scene.count), scene.count) : 1;
-        drawSpoon(cr, startX + i * 0.05, plateCentreY - 0.03 + i * 0.055 - (count - 1) * 0.0275, scale,
-                  scene.look, fill);
+        drawSpoon(cr, (glyph ? 0.44 : 0.32) + i * 0.04, plateCentreY + 0.02 + i * 0.05 - (count - 1) * 0.025,
+                  scale, scene.look, fill);
     }
-    if (scene.look.glyph != 0)
-        drawGlyph(cr, fonts, scene.look.glyph, 0.76, plateCentreY - 0.03, 0.3);
 }
 
 double textWidth(cairo_t *cr, cairo_font_face_t *face, double size, const std::string &text)

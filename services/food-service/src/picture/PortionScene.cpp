@@ -4,6 +4,7 @@
 #include "text/FoldedText.h"
 
 #include <algorithm>
+#include <cctype>
 #include <charconv>
 
 namespace foodservice {
