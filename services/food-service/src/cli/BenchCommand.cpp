@@ -1,4 +1,5 @@
 #include "bench/Benchmark.h"
+#include "bench/PictureBench.h"
 #include "cli/CommandLine.h"
 #include "cli/Commands.h"
 #include "http/FoodServer.h"
@@ -65,6 +66,7 @@ int runBench(const CommandLine &options)
                          search.perSecond >= goalPerSecond;
         std::printf("goals (p50 <= %.0f ms, p50 <= %.0fx floor, >= %.0f searches/s): %s\n", goalP50,
                     goalFloorRatio, goalPerSecond, met ? "met" : "NOT met");
+        (void)benchPictures(benchmark, settings.database, cheapest, concurrentClients, seconds);
     } catch (const std::exception &error) {
         std::fprintf(stderr, "bench failed: %s\n", error.what());
         status = 1;
