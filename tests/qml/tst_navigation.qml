@@ -107,8 +107,8 @@ TestCase {
     }
 
     function test_screensWithoutALookPushNothing() {
-        compare(Destinations.screen("NoSuchUIView").toString(), "")
-        compare(Destinations.screen("CarbCounterUIView").toString(), "qrc:/qt/qml/Nutrika/screens/CarbCounterScreen.qml")
+        compare(String(Destinations.screen("NoSuchUIView")), "")
+        compare(String(Destinations.screen("CarbCounterUIView")), "qrc:/qt/qml/Nutrika/screens/CarbCounterScreen.qml")
         const stack = createTemporaryObject(stackComponent, testCase)
         const link = createTemporaryObject(linkComponent, testCase,
                                            { navigation: stack, destinationUrl: Destinations.screen("NoSuchUIView") })

@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Controls.Basic
-import QtQuick.Layouts
 import Nutrika
 
 // The look of CarbCounterUIView: the calculator's lines, the total and "Search more foods".
@@ -32,11 +31,15 @@ FocusScope {
             width: parent.width
             height: parent.height - columnHeader.height - searchMore.height - 20
             clip: true
-            model: screen.uiView.lines
+            // Qt 6.4's linter has no type information for a list of objects; the engine reads it well.
+            model: screen.uiView.lines // qmllint disable type
             boundsBehavior: Flickable.StopAtBounds
             Accessible.role: Accessible.List
             Accessible.name: qsTr("Calculator")
 
+            // Qt 6.4 cannot create every component bound to its file (ComponentBehavior: Bound), so the
+            // components below reach ids outside them, which the linter counts as unqualified access.
+            // qmllint disable unqualified
             delegate: CalculatorLine {
                 required property int index
                 required property DiaryEntry modelData
@@ -57,6 +60,7 @@ FocusScope {
                 width: lineList.width
                 amount: screen.uiView.totalText
             }
+            // qmllint enable unqualified
         }
 
         ActionButton {

@@ -24,9 +24,11 @@ CarbCounterUIView::CarbCounterUIView(QObject *parent)
 }
 
 CarbCounterUIView::CarbCounterUIView(std::function<void()> onDismissCallback, QObject *parent)
-    : QObject(parent)
-    , m_onDismissCallback(std::move(onDismissCallback))
-    , m_request(&requestAccompanyingFoods)
+    : QObject(parent), m_onDismissCallback(std::move(onDismissCallback)),
+      m_request([](qint64 foodId, QObject *context, FoodsDone done) {
+          requestAccompanyingFoods(*EnvironmentVariables::shared()->serviceClient(), foodId, context,
+                                   std::move(done));
+      })
 {
     EnvironmentVariables *env = EnvironmentVariables::shared();
     connect(env, &EnvironmentVariables::trackedNutrientListItemsChanged, this, [this] {

@@ -43,7 +43,7 @@ QtObject {
     function sync() {
         if (!navigation || navigation.busy)
             return
-        if (active && !screen && !backedOut && destinationUrl.toString() !== "") {
+        if (active && !screen && !backedOut && String(destinationUrl) !== "") {
             const initial = Object.assign({ navigation: navigation, presentationMode: link }, properties)
             screen = navigation.push(destinationUrl, initial)
         } else if (!active && screen) {

@@ -1,25 +1,28 @@
 #pragma once
 
-#include "ApiKey.h"
+#include "EnvironmentVariables.h"
 #include "FoodServiceProcess.h"
 
-#include <QObject>
 #include <memory>
+#include <QObject>
+#include <QtQmlIntegration>
 
-/// Runs the local food-data service for the search screen tests and points the module at it.
+/// Runs the local food-data service for the search screen tests and points the session's client at it.
 class ServiceProbe : public QObject
 {
     Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
     Q_PROPERTY(bool ready READ ready CONSTANT)
     Q_PROPERTY(QString screenshotDir READ screenshotDir CONSTANT)
 
 public:
-    ServiceProbe()
-        : m_service(std::make_unique<FoodServiceProcess>(QStringLiteral(NUTRIKA_FOOD_DB)))
+    ServiceProbe() : m_service(std::make_unique<FoodServiceProcess>(QStringLiteral(NUTRIKA_FOOD_DB)))
     {
-        qputenv("NUTRIKA_SERVICE_ORIGIN", m_service->origin().toUtf8());
-        qputenv("NUTRIKA_CA_CERT", m_service->caPath().toUtf8());
-        nutrika::API_KEY = m_service->apiKey();
+        nutrika::ServiceClient *client = nutrika::EnvironmentVariables::shared()->serviceClient();
+        client->setOrigin(QUrl(m_service->origin()));
+        client->setCaCertificates(QSslCertificate::fromPath(m_service->caPath()));
+        client->setApiKey(m_service->apiKey());
     }
 
     [[nodiscard]] bool ready() const { return m_service && m_service->isReady(); }
