@@ -41,7 +41,7 @@ bool isOrigin(const QUrl &url)
 
 std::unique_ptr<QCoreApplication> createApplication(int &argc, char **argv)
 {
-    if (hasArgument(argc, argv, {"-h", "--help", "--help-all"}))
+    if (hasArgument(argc, argv, {"-h", "--help"}))
         return std::make_unique<QCoreApplication>(argc, argv);
     if (hasArgument(argc, argv, {"--preview"}))
         return std::make_unique<QGuiApplication>(argc, argv);
@@ -51,8 +51,8 @@ std::unique_ptr<QCoreApplication> createApplication(int &argc, char **argv)
 std::variant<DemoOptions, int> parseDemoOptions(const QStringList &arguments)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(u"A host application that opens the Nutrika carb calculator. Without "
-                                     u"--service-origin it starts the bundled food-data service."_s);
+    parser.setApplicationDescription(u"A host application that opens the Nutrika carb calculator.\n"
+                                     u"Without --service-origin it starts the bundled food-data service."_s);
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption preview(u"preview"_s, u"Show <screen> with sample data (calculator)."_s,
                                      u"screen"_s);

@@ -82,6 +82,9 @@ int runHost(DemoOptions options)
     settings.origin = options.serviceOrigin;
     settings.caCertificates = options.caCertificates;
     nutrika::setServiceSettings(settings);
+    std::printf("nutrika-demo: food data from %s\n",
+                qPrintable(nutrika::serviceSettings().origin.toDisplayString()));
+    std::fflush(stdout);
 
     if (!options.screenshot.isEmpty()) {
         QWidget *module = nutrika::initNutrika(options.apiKey, [] {});
