@@ -18,8 +18,8 @@ const QString managerName = u"nutrika-service-client"_s;
 // Runs while the application still exists, so that the managers' cached TLS connections close cleanly.
 void deleteManagers()
 {
-    const QCoreApplication *app = QCoreApplication::instance();
-    qDeleteAll(app->findChildren<QNetworkAccessManager *>(managerName, Qt::FindDirectChildrenOnly));
+    if (const QCoreApplication *app = QCoreApplication::instance())
+        qDeleteAll(app->findChildren<QNetworkAccessManager *>(managerName, Qt::FindDirectChildrenOnly));
 }
 
 // The paths begin with a slash; an origin written with one must not add a second.
