@@ -4,13 +4,13 @@
 //   until every visible thumbnail is drawn (floor: one thumbnail request);
 //   the preview shown until its Carbohydrates value is drawn (floor: the nutrient request);
 //   "Add to calculator" until the calculator shows the new line and total (goal: one frame).
-#include "ApiKey.h"
 #include "EnvironmentVariables.h"
 #include "FoodServiceProcess.h"
 #include "SelectPortionUIView.h"
 #include "nutrika/Nutrika.h"
 
 #include <QElapsedTimer>
+#include <QSslCertificate>
 #include <QGuiApplication>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
@@ -110,9 +110,10 @@ int main(int argc, char **argv)
         std::fprintf(stderr, "the food-data service did not start: %s\n", qPrintable(service.errorString()));
         return 1;
     }
-    qputenv("NUTRIKA_SERVICE_ORIGIN", service.origin().toUtf8());
-    qputenv("NUTRIKA_CA_CERT", service.caPath().toUtf8());
-    API_KEY = service.apiKey();
+    ServiceClient &client = *EnvironmentVariables::shared()->serviceClient();
+    client.setOrigin(QUrl(service.origin()));
+    client.setCaCertificates(QSslCertificate::fromPath(service.caPath()));
+    client.setApiKey(service.apiKey());
 
     QQmlEngine engine;
     prepareNutrikaEngine(engine);

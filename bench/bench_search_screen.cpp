@@ -1,11 +1,10 @@
 // From a settled search text to the first page of 50 rows laid out on screen, in-process against the
 // local food-data service, beside the floor: the bare HTTPS request for the same URL with the same
 // QNetworkAccessManager.
-#include "ApiKey.h"
+#include "EnvironmentVariables.h"
 #include "FoodSearchRequest.h"
 #include "FoodServiceProcess.h"
 #include "ItemSearchUIView.h"
-#include "RequestFrame.h"
 #include "nutrika/Nutrika.h"
 
 #include <QElapsedTimer>
@@ -38,16 +37,16 @@ void waitUntil(const std::function<bool()> &done)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
-double bareRequestMs(const QString &text)
+double bareRequestMs(ServiceClient &client, const QString &text)
 {
-    QNetworkRequest request(QUrl::fromEncoded(
-        (serviceOrigin() + foodSearchPath()).toUtf8() + '?' + encodeQuery(foodSearchParameters({text, 0, {}, {}})),
-        QUrl::StrictMode));
-    request.setRawHeader("Authorization", "Api-Key " + API_KEY.toUtf8());
-    request.setSslConfiguration(serviceSslConfiguration());
+    QNetworkRequest request(QUrl::fromEncoded((client.originText() + foodSearchPath()).toUtf8() + '?' +
+                                                  encodeQuery(foodSearchParameters({text, 0, {}, {}})),
+                                              QUrl::StrictMode));
+    request.setRawHeader("Authorization", "Api-Key " + client.apiKey().toUtf8());
+    request.setSslConfiguration(client.sslConfiguration());
     QElapsedTimer timer;
     timer.start();
-    QNetworkReply *reply = sharedNetworkAccessManager()->get(request);
+    QNetworkReply *reply = client.networkAccessManager()->get(request);
     waitUntil([reply] { return reply->isFinished(); });
     (void)reply->readAll();
     const double ms = double(timer.nsecsElapsed()) / 1e6;
@@ -67,9 +66,10 @@ int main(int argc, char **argv)
         std::fprintf(stderr, "the food-data service did not start: %s\n", qPrintable(service.errorString()));
         return 1;
     }
-    qputenv("NUTRIKA_SERVICE_ORIGIN", service.origin().toUtf8());
-    qputenv("NUTRIKA_CA_CERT", service.caPath().toUtf8());
-    API_KEY = service.apiKey();
+    ServiceClient &client = *EnvironmentVariables::shared()->serviceClient();
+    client.setOrigin(QUrl(service.origin()));
+    client.setCaCertificates(QSslCertificate::fromPath(service.caPath()));
+    client.setApiKey(service.apiKey());
 
     QQmlEngine engine;
     prepareNutrikaEngine(engine);
@@ -89,13 +89,13 @@ int main(int argc, char **argv)
     int frames = 0;
     QObject::connect(window, &QQuickWindow::frameSwapped, [&frames] { ++frames; });
 
-    (void)bareRequestMs(QStringLiteral("warm up")); // the TLS session and the connection
+    (void)bareRequestMs(client, QStringLiteral("warm up")); // the TLS session and the connection
     std::vector<double> floorMs;
     std::vector<double> screenMs;
     std::vector<double> appliedMs;
     for (int round = 0; round < 5; ++round) {
         for (const QString &text : queries) {
-            floorMs.push_back(bareRequestMs(text));
+            floorMs.push_back(bareRequestMs(client, text));
             view->onFinishTyping(QString()); // so the same text settles anew
             QElapsedTimer timer;
             timer.start();

@@ -1,16 +1,16 @@
-#include "FoodService.h"
+#include "DemoOptions.h"
+#include "FoodServiceProcess.h"
 #include "HostWindow.h"
-#include "Screenshot.h"
 #include "nutrika/Nutrika.h"
+#include "Screenshot.h"
 
+#include <cstdio>
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QMap>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickView>
 #include <QQuickWindow>
-#include <cstdio>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -41,9 +41,19 @@ int fail(const QString &message)
     return 1;
 }
 
+// The build's service and database; the environment may point elsewhere.
+QString setting(const char *variable, const QString &builtIn)
+{
+    const QString value = qEnvironmentVariable(variable);
+    return value.isEmpty() ? builtIn : value;
+}
+
 // A QML host: the preview is the module's root item in a plain Qt Quick window.
 int showPreview(const QString &screen, const QString &screenshot)
 {
+    if (!previews.contains(screen))
+        return fail(
+            u"no preview of \"%1\"; screens with a preview: %2"_s.arg(screen, previews.keys().join(u", "_s)));
     QQuickView view;
     view.setTitle(u"Nutrika preview: "_s + screen);
     view.setResizeMode(QQuickView::SizeRootObjectToView);
@@ -61,65 +71,70 @@ int showPreview(const QString &screen, const QString &screenshot)
     return QGuiApplication::exec();
 }
 
+// A Widgets host, against the service the options name or the bundled one.
+int runHost(DemoOptions options)
+{
+    nutrika::ServiceSettings settings;
+    std::unique_ptr<FoodServiceProcess> bundled;
+    QString note = u"Food data: service at %1"_s.arg(options.serviceOrigin.toDisplayString());
+    if (options.serviceOrigin.isEmpty()) {
+        if (options.apiKey.isEmpty())
+            options.apiKey = FoodServiceProcess::randomApiKey();
+        bundled = std::make_unique<FoodServiceProcess>(
+            setting("NUTRIKA_FOOD_DB", QStringLiteral(NUTRIKA_FOOD_DB)), options.apiKey,
+            setting("NUTRIKA_FOOD_SERVICE", FoodServiceProcess::serviceBinary()));
+        if (!bundled->isReady())
+            return fail(u"cannot start the food-data service: %1 (run scripts/demo, set NUTRIKA_FOOD_DB and "
+                        u"NUTRIKA_FOOD_SERVICE, or pass --service-origin)"_s.arg(bundled->errorString()));
+        options.serviceOrigin = QUrl(bundled->origin());
+        options.caCertificates += QSslCertificate::fromPath(bundled->caPath(), QSsl::Pem);
+        note = u"Food data: local service at %1"_s.arg(bundled->origin());
+    }
+    settings.origin = options.serviceOrigin;
+    settings.caCertificates = options.caCertificates;
+    nutrika::setServiceSettings(settings);
+    std::printf("nutrika-demo: food data from %s\n",
+                qPrintable(nutrika::serviceSettings().origin.toDisplayString()));
+    std::fflush(stdout);
+
+    if (!options.screenshot.isEmpty()) {
+        QWidget *module = nutrika::initNutrika(options.apiKey, [] {});
+        module->setWindowState(Qt::WindowNoState);
+        module->resize(previewSize);
+        module->show();
+        saveScreenshotAndQuit(module, options.screenshot);
+        return QApplication::exec();
+    }
+
+    HostWindow host(options.apiKey, note);
+    host.show();
+    return QApplication::exec();
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
-    const bool headless = qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    const bool headless =
+        qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
     if (headless && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     if (qgetenv("QT_QPA_PLATFORM") == "offscreen")
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
 
-    QCommandLineParser parser;
-    parser.setApplicationDescription(u"A host application that opens the Nutrika carb calculator."_s);
-    const QCommandLineOption help = parser.addHelpOption();
-    const QCommandLineOption preview(u"preview"_s, u"Show <screen> with sample data; without a name, list the screens."_s, u"screen"_s);
-    const QCommandLineOption screenshot(u"screenshot"_s, u"Save the view as <file.png> and exit."_s, u"file.png"_s);
-    parser.addOptions({preview, screenshot});
-    QStringList arguments;
-    for (int i = 0; i < argc; ++i)
-        arguments.append(QString::fromLocal8Bit(argv[i]));
+    const std::unique_ptr<QCoreApplication> app = createApplication(argc, argv);
     // "--preview" without a name lists the names.
+    const QStringList arguments = QCoreApplication::arguments();
     if (const qsizetype at = arguments.indexOf(u"--preview"_s);
         at > 0 && (at + 1 == arguments.size() || arguments.at(at + 1).startsWith(u'-'))) {
         std::fputs(qPrintable(u"Screens with a preview: "_s + previews.keys().join(u", "_s) + u'\n'), stdout);
         return 0;
     }
-    if (!parser.parse(arguments))
-        return fail(parser.errorText());
-    if (parser.isSet(help)) {
-        std::fputs(qPrintable(parser.helpText()), stdout);
-        return 0;
-    }
-    const QString shot = parser.isSet(screenshot) ? parser.value(screenshot) : QString();
-
-    // A preview needs no widgets: the module is shown the way a QML host embeds it.
-    if (parser.isSet(preview)) {
-        QGuiApplication app(argc, argv);
-        const QString screen = parser.value(preview);
-        if (!previews.contains(screen))
-            return fail(u"no preview of \"%1\"; screens with a preview: %2"_s.arg(screen, previews.keys().join(u", "_s)));
-        return showPreview(screen, shot);
-    }
-
-    QApplication app(argc, argv);
-    FoodService service;
-    if (!service.start())
-        return fail(u"cannot start the food-data service: "_s + service.errorString());
-    qputenv("NUTRIKA_SERVICE_ORIGIN", service.origin().toUtf8());
-    qputenv("NUTRIKA_CA_CERT", service.caPath().toUtf8());
-
-    if (!shot.isEmpty()) {
-        QWidget *module = nutrika::initNutrika(service.apiKey(), [] {});
-        module->setWindowState(Qt::WindowNoState);
-        module->resize(previewSize);
-        module->show();
-        saveScreenshotAndQuit(module, shot);
-        return QApplication::exec();
-    }
-
-    HostWindow host(service.apiKey(), u"Food data: local service at %1"_s.arg(service.origin()));
-    host.show();
-    return QApplication::exec();
+    std::variant<DemoOptions, int> parsed = parseDemoOptions(arguments);
+    if (const int *status = std::get_if<int>(&parsed))
+        return *status;
+    DemoOptions &options = std::get<DemoOptions>(parsed);
+    if (!options.preview.isEmpty())
+        return showPreview(options.preview, options.screenshot);
+    return runHost(std::move(options));
 }

@@ -1,20 +1,41 @@
 #pragma once
 
+#include <functional>
+#include <QList>
+#include <QSslCertificate>
 #include <QString>
+#include <QUrl>
 #include <QVariant>
 #include <QWidget>
-#include <functional>
 
 class QQmlEngine;
 
 namespace nutrika {
 
-/// Opens the module for a Qt Widgets host. Stores `apiKey` for every request and returns the container
-/// to present: a widget marked full screen that holds the calculator. `onDismissCallback` runs once per
-/// "Close", before the container closes itself. The calculator's lines stay for the next call.
+/// Where the module finds the food-data service. A field left empty keeps its current value: at first
+/// the build's origin and the system's authorities, or NUTRIKA_SERVICE_ORIGIN and NUTRIKA_CA_CERT when
+/// they were set as the process started.
+struct ServiceSettings
+{
+    /// Scheme, host and port of the service, such as "https://food.example.org".
+    QUrl origin;
+    /// Authorities trusted besides the system's, for a service whose certificate they sign.
+    QList<QSslCertificate> caCertificates;
+};
+
+/// Applies `settings` to every later request of the process, the screens already open included.
+void setServiceSettings(const ServiceSettings &settings);
+/// The origin and the extra authorities the requests use now.
+[[nodiscard]] ServiceSettings serviceSettings();
+
+/// Opens the module for a Qt Widgets host. Stores `apiKey` for every later request and returns the
+/// container to present: a widget marked full screen, sized to the screen, that holds the calculator.
+/// `onDismissCallback` runs once per "Close", before the container closes itself. The calculator's lines
+/// stay for the next call.
 [[nodiscard]] QWidget *initNutrika(const QString &apiKey, std::function<void()> onDismissCallback);
 
-/// Prepares a host's own QML engine so that `import Nutrika` works (the root item is NutrikaRoot).
+/// Prepares a host's own QML engine so that `import Nutrika` works. The root item is NutrikaRoot; its
+/// `apiKey` and `serviceOrigin` properties set the key and the origin.
 void prepareNutrikaEngine(QQmlEngine &engine);
 
 /// A host-side controller: prints "View did load" when first shown. onClose() closes it first and

@@ -4,6 +4,7 @@
 #include "FilterOptionsRequest.h"
 #include "PortionImageRequest.h"
 #include "PortionsRequest.h"
+#include "RecordingServer.h"
 
 #include <QTest>
 
@@ -29,8 +30,8 @@ namespace probe {
 
 Probe foodSearch(const FoodSearchQuery &query)
 {
-    return [query](QObject *context, auto report) {
-        requestFoodSearch(query, context, [report](const ServiceResult<FoodSearchPage> &result) {
+    return [query](ServiceClient &client, QObject *context, auto report) {
+        requestFoodSearch(client, query, context, [report](const ServiceResult<FoodSearchPage> &result) {
             if (const auto *failure = std::get_if<ServiceFailure>(&result)) {
                 report(failureMessage(*failure).title);
                 return;
@@ -44,8 +45,8 @@ Probe foodSearch(const FoodSearchQuery &query)
 
 Probe filterOptions(const QString &search)
 {
-    return [search](QObject *context, auto report) {
-        requestFilterOptions(search, context, [report](const std::optional<FilterOptions> &options) {
+    return [search](ServiceClient &client, QObject *context, auto report) {
+        requestFilterOptions(client, search, context, [report](const std::optional<FilterOptions> &options) {
             report(options ? u"%1 brands, %2 categories"_s.arg(options->brands.size()).arg(options->categories.size())
                            : u"none"_s);
         });
@@ -54,46 +55,57 @@ Probe filterOptions(const QString &search)
 
 Probe portions(qint64 foodId)
 {
-    return [foodId](QObject *context, auto report) {
-        requestPortions(foodId, context, [report](const auto &portions) { report(countOrNone(portions, u"portions"_s)); });
+    return [foodId](ServiceClient &client, QObject *context, auto report) {
+        requestPortions(client, foodId, context,
+                        [report](const auto &portions) { report(countOrNone(portions, u"portions"_s)); });
     };
 }
 
 Probe nutrients(const FoodItem &food, const PortionItem &portion)
 {
-    return [food, portion](QObject *context, auto report) {
-        requestNutrients(food, portion, context, [report](const std::optional<PortionNutrients> &nutrients) {
-            report(nutrients ? u"%1 nutrients"_s.arg(nutrients->nutrients.size()) : u"none"_s);
-        });
+    return [food, portion](ServiceClient &client, QObject *context, auto report) {
+        requestNutrients(
+            client, food, portion, context, [report](const std::optional<PortionNutrients> &nutrients) {
+                report(nutrients ? u"%1 nutrients"_s.arg(nutrients->nutrients.size()) : u"none"_s);
+            });
     };
 }
 
 Probe accompanyingFoods(qint64 foodId)
 {
-    return [foodId](QObject *context, auto report) {
-        requestAccompanyingFoods(foodId, context, [report](const auto &foods) { report(countOrNone(foods, u"foods"_s)); });
+    return [foodId](ServiceClient &client, QObject *context, auto report) {
+        requestAccompanyingFoods(client, foodId, context,
+                                 [report](const auto &foods) { report(countOrNone(foods, u"foods"_s)); });
     };
 }
 
 Probe thumbnail(qint64 portionId)
 {
-    return [portionId](QObject *context, auto report) {
-        requestPortionThumbnail(portionId, context, [report](const auto &image) { report(imageOrNone(image)); });
+    return [portionId](ServiceClient &client, QObject *context, auto report) {
+        requestPortionThumbnail(client, portionId, context,
+                                [report](const auto &image) { report(imageOrNone(image)); });
     };
 }
 
 Probe picture(qint64 portionId)
 {
-    return [portionId](QObject *context, auto report) {
-        requestPortionImage(portionId, context, [report](const auto &image) { report(imageOrNone(image)); });
+    return [portionId](ServiceClient &client, QObject *context, auto report) {
+        requestPortionImage(client, portionId, context,
+                            [report](const auto &image) { report(imageOrNone(image)); });
     };
 }
 
-QString run(const Probe &probe)
+void pointAt(ServiceClient &client, const QString &origin)
+{
+    client.setOrigin(QUrl(origin));
+    client.setCaCertificates(QSslCertificate::fromPath(RecordingServer::tlsDirectory() + u"/ca.pem"_s));
+}
+
+QString run(ServiceClient &client, const Probe &probe)
 {
     QObject context;
     std::optional<QString> outcome;
-    probe(&context, [&outcome](const QString &text) { outcome = text; });
+    probe(client, &context, [&outcome](const QString &text) { outcome = text; });
     if (!QTest::qWaitFor([&outcome] { return outcome.has_value(); }, 30000))
         return {};
     return *outcome;

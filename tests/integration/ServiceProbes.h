@@ -2,13 +2,15 @@
 
 #include "FoodSearchRequest.h"
 #include "NutrientsRequest.h"
+#include "ServiceClient.h"
 
 #include <QObject>
 #include <QString>
 #include <functional>
 
 /// Sends one request through its public function and reports the outcome as a short text.
-using Probe = std::function<void(QObject *context, std::function<void(const QString &)> report)>;
+using Probe = std::function<void(nutrika::ServiceClient &client, QObject *context,
+                                 std::function<void(const QString &)> report)>;
 Q_DECLARE_METATYPE(Probe)
 
 namespace probe {
@@ -20,6 +22,9 @@ namespace probe {
 [[nodiscard]] Probe thumbnail(qint64 portionId);
 [[nodiscard]] Probe picture(qint64 portionId);
 
-/// Runs the probe, spinning the event loop until it reports; an empty text if it never does.
-[[nodiscard]] QString run(const Probe &probe);
+/// Points `client` at `origin`, trusting the authority that signs the recording server's certificate.
+void pointAt(nutrika::ServiceClient &client, const QString &origin);
+
+/// Runs the probe through `client`, spinning the event loop until it reports; an empty text if it never does.
+[[nodiscard]] QString run(nutrika::ServiceClient &client, const Probe &probe);
 } // namespace probe

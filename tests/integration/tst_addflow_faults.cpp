@@ -8,6 +8,7 @@
 
 #include <QBuffer>
 #include <QImage>
+#include <QSslCertificate>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -50,8 +51,9 @@ class AddFlowFaultsTest : public QObject
 private slots:
     void initTestCase()
     {
-        qputenv("NUTRIKA_CA_CERT", (RecordingServer::tlsDirectory() + u"/ca.pem"_s).toUtf8());
-        qputenv("NUTRIKA_SERVICE_ORIGIN", server.origin().toUtf8());
+        ServiceClient &client = *EnvironmentVariables::shared()->serviceClient();
+        client.setOrigin(QUrl(server.origin()));
+        client.setCaCertificates(QSslCertificate::fromPath(RecordingServer::tlsDirectory() + u"/ca.pem"_s));
     }
 
     void portionLists_data()

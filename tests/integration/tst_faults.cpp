@@ -1,7 +1,5 @@
 #include "AccompanyingFoodsRequest.h"
-#include "ApiKey.h"
 #include "RecordingServer.h"
-#include "RequestFrame.h"
 #include "ServiceProbes.h"
 #include "StdoutCapture.h"
 
@@ -35,13 +33,16 @@ class FaultsTest : public QObject
 private slots:
     void initTestCase()
     {
-        qputenv("NUTRIKA_CA_CERT", (RecordingServer::tlsDirectory() + u"/ca.pem"_s).toUtf8());
         QLoggingCategory::setFilterRules(u"nutrika.http.debug=true"_s);
         qInstallMessageHandler(recordMessage);
-        API_KEY = secretKey;
     }
 
-    void init() { loggedMessages.clear(); }
+    void init()
+    {
+        loggedMessages.clear();
+        m_client = std::make_unique<ServiceClient>();
+        m_client->setApiKey(secretKey);
+    }
 
     void endsInTheDefinedOutcome_data()
     {
@@ -97,10 +98,10 @@ private slots:
         QFETCH(QList<QByteArray>, diagnostics);
         RecordingServer server;
         server.setReply({status, body, "text/html", announcedLength});
-        qputenv("NUTRIKA_SERVICE_ORIGIN", server.origin().toUtf8());
+        probe::pointAt(*m_client, server.origin());
 
         StdoutCapture capture;
-        QCOMPARE(probe::run(probe), outcome);
+        QCOMPARE(probe::run(*m_client, probe), outcome);
         QCOMPARE(capture.lines(), diagnostics);
         QVERIFY(!loggedMessages.isEmpty());
         QVERIFY(!loggedMessages.join(u'\n').contains(secretKey));
@@ -144,10 +145,10 @@ private slots:
         } else if (origin == u"http") {
             url.replace(u"https:"_s, u"http:"_s);
         }
-        qputenv("NUTRIKA_SERVICE_ORIGIN", url.toUtf8());
+        probe::pointAt(*m_client, url);
 
         StdoutCapture capture;
-        QCOMPARE(probe::run(probe), outcome);
+        QCOMPARE(probe::run(*m_client, probe), outcome);
         QCOMPARE(capture.lines(), diagnostics);
         QVERIFY(!loggedMessages.isEmpty());
         QVERIFY(!loggedMessages.join(u'\n').contains(secretKey));
@@ -157,11 +158,11 @@ private slots:
     {
         RecordingServer server;
         server.setReply({200, searchPage});
-        qputenv("NUTRIKA_SERVICE_ORIGIN", server.origin().toUtf8());
-        API_KEY = secretKey + u"\r\nX-Injected: 1"_s;
+        probe::pointAt(*m_client, server.origin());
+        m_client->setApiKey(secretKey + u"\r\nX-Injected: 1"_s);
         StdoutCapture capture;
-        const QString outcome = probe::run(probe::foodSearch({u"banana"_s, 0, QString(), QString()}));
-        API_KEY = secretKey;
+        const QString outcome =
+            probe::run(*m_client, probe::foodSearch({u"banana"_s, 0, QString(), QString()}));
         QCOMPARE(outcome, u"Connection Error"_s);
         QCOMPARE(capture.lines(), QList<QByteArray>{"Unable to connect to server, try again later"});
         QVERIFY(server.requests().isEmpty());
@@ -172,15 +173,18 @@ private slots:
     {
         RecordingServer server;
         server.setReply({200, searchPage});
-        qputenv("NUTRIKA_SERVICE_ORIGIN", server.origin().toUtf8());
+        probe::pointAt(*m_client, server.origin());
         bool called = false;
         auto context = std::make_unique<QObject>();
-        QSignalSpy finished(sharedNetworkAccessManager(), &QNetworkAccessManager::finished);
-        requestAccompanyingFoods(9040, context.get(), [&called](const auto &) { called = true; });
+        QSignalSpy finished(m_client->networkAccessManager(), &QNetworkAccessManager::finished);
+        requestAccompanyingFoods(*m_client, 9040, context.get(), [&called](const auto &) { called = true; });
         context.reset();
         QVERIFY(finished.wait(30000));
         QVERIFY(!called);
     }
+
+private:
+    std::unique_ptr<ServiceClient> m_client;
 };
 
 QTEST_GUILESS_MAIN(FaultsTest)

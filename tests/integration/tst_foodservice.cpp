@@ -1,11 +1,11 @@
 #include "AccompanyingFoodsRequest.h"
-#include "ApiKey.h"
 #include "FilterOptionsRequest.h"
 #include "FoodSearchRequest.h"
 #include "FoodServiceProcess.h"
 #include "NutrientsRequest.h"
 #include "PortionImageRequest.h"
 #include "PortionsRequest.h"
+#include "ServiceClient.h"
 
 #include <QTest>
 
@@ -26,26 +26,27 @@ std::optional<Result> await(Send send)
     return result;
 }
 
-std::optional<FoodSearchPage> search(const FoodSearchQuery &query)
+std::optional<FoodSearchPage> search(ServiceClient &client, const FoodSearchQuery &query)
 {
     const auto result = await<ServiceResult<FoodSearchPage>>(
-        [&query](QObject *context, auto done) { requestFoodSearch(query, context, done); });
+        [&](QObject *context, auto done) { requestFoodSearch(client, query, context, done); });
     if (!result || !std::holds_alternative<FoodSearchPage>(*result))
         return std::nullopt;
     return std::get<FoodSearchPage>(*result);
 }
 
-QList<PortionItem> portionsOf(qint64 foodId)
+QList<PortionItem> portionsOf(ServiceClient &client, qint64 foodId)
 {
     const auto result = await<std::optional<QList<PortionItem>>>(
-        [foodId](QObject *context, auto done) { requestPortions(foodId, context, done); });
+        [&](QObject *context, auto done) { requestPortions(client, foodId, context, done); });
     return result && *result ? **result : QList<PortionItem>();
 }
 
-std::optional<QImage> pictureOf(qint64 portionId, bool thumbnail)
+std::optional<QImage> pictureOf(ServiceClient &client, qint64 portionId, bool thumbnail)
 {
-    const auto result = await<std::optional<QImage>>([=](QObject *context, auto done) {
-        thumbnail ? requestPortionThumbnail(portionId, context, done) : requestPortionImage(portionId, context, done);
+    const auto result = await<std::optional<QImage>>([&](QObject *context, auto done) {
+        thumbnail ? requestPortionThumbnail(client, portionId, context, done)
+                  : requestPortionImage(client, portionId, context, done);
     });
     return result ? *result : std::nullopt;
 }
@@ -61,15 +62,16 @@ private slots:
     {
         m_service = std::make_unique<FoodServiceProcess>(QStringLiteral(NUTRIKA_FOOD_DB));
         QVERIFY2(m_service->isReady(), qPrintable(m_service->errorString()));
-        qputenv("NUTRIKA_SERVICE_ORIGIN", m_service->origin().toUtf8());
-        qputenv("NUTRIKA_CA_CERT", m_service->caPath().toUtf8());
+        m_client.setOrigin(QUrl(m_service->origin()));
+        m_client.setCaCertificates(QSslCertificate::fromPath(m_service->caPath()));
     }
 
-    void init() { API_KEY = m_service->apiKey(); }
+    void init() { m_client.setApiKey(m_service->apiKey()); }
 
     void findsAGenericFood()
     {
-        const std::optional<FoodSearchPage> page = search({u"Bananas, raw"_s, 0, QString(), QString()});
+        const std::optional<FoodSearchPage> page =
+            search(m_client, {u"Bananas, raw"_s, 0, QString(), QString()});
         QVERIFY(page);
         QVERIFY(page->count >= 1);
         const qsizetype at = page->generic.indexOf(FoodItem{QString(), 9040, 0, QString(), false});
@@ -82,7 +84,8 @@ private slots:
 
     void filtersByEscapedBrandAndCategory()
     {
-        const std::optional<FoodSearchPage> page = search({u"chicken"_s, 0, u"WENDY'S"_s, u"Fast Foods"_s});
+        const std::optional<FoodSearchPage> page =
+            search(m_client, {u"chicken"_s, 0, u"WENDY'S"_s, u"Fast Foods"_s});
         QVERIFY(page);
         QVERIFY(!page->branded.isEmpty());
         QVERIFY(page->generic.isEmpty());
@@ -92,8 +95,9 @@ private slots:
 
     void loadsFilterOptions()
     {
-        const auto options = await<std::optional<FilterOptions>>(
-            [](QObject *context, auto done) { requestFilterOptions(u"cheerios"_s, context, done); });
+        const auto options = await<std::optional<FilterOptions>>([this](QObject *context, auto done) {
+            requestFilterOptions(m_client, u"cheerios"_s, context, done);
+        });
         QVERIFY(options && *options);
         QCOMPARE((*options)->brands, QStringList{u"GENERAL MILLS"_s});
         QCOMPARE((*options)->categories, QStringList{u"Breakfast Cereals"_s});
@@ -101,7 +105,7 @@ private slots:
 
     void computesCarbohydratesOfAMediumBanana()
     {
-        const QList<PortionItem> portions = portionsOf(9040);
+        const QList<PortionItem> portions = portionsOf(m_client, 9040);
         QCOMPARE(portions.size(), 8);
         const auto medium = std::find_if(portions.cbegin(), portions.cend(),
                                          [](const PortionItem &p) { return p.description.contains(u"medium"); });
@@ -111,7 +115,7 @@ private slots:
 
         const FoodItem banana{u"Bananas, raw"_s, 9040, 9040, QString(), false};
         const auto nutrients = await<std::optional<PortionNutrients>>(
-            [&](QObject *context, auto done) { requestNutrients(banana, *medium, context, done); });
+            [&](QObject *context, auto done) { requestNutrients(m_client, banana, *medium, context, done); });
         QVERIFY(nutrients && *nutrients);
         const PortionNutrients &mapped = **nutrients;
         QVERIFY(mapped.trackedNutrient);
@@ -126,7 +130,7 @@ private slots:
     void suggestsAccompanyingFoods()
     {
         const auto foods = await<std::optional<QList<FoodItem>>>(
-            [](QObject *context, auto done) { requestAccompanyingFoods(8013, context, done); });
+            [this](QObject *context, auto done) { requestAccompanyingFoods(m_client, 8013, context, done); });
         QVERIFY(foods && *foods);
         QVERIFY((*foods)->contains(FoodItem{QString(), 1079, 0, QString(), false}));
     }
@@ -143,18 +147,18 @@ private slots:
     {
         QFETCH(bool, thumbnail);
         QFETCH(QSize, size);
-        const PortionItem pictured = portionsOf(9040).constFirst();
+        const PortionItem pictured = portionsOf(m_client, 9040).constFirst();
         QVERIFY(!pictured.image_name.isEmpty());
-        const std::optional<QImage> image = pictureOf(pictured.id, thumbnail);
+        const std::optional<QImage> image = pictureOf(m_client, pictured.id, thumbnail);
         QVERIFY(image);
         QCOMPARE(image->size(), size);
     }
 
     void refusesAWrongKey()
     {
-        API_KEY = u"not-the-key"_s;
-        const auto result = await<ServiceResult<FoodSearchPage>>([](QObject *context, auto done) {
-            requestFoodSearch({u"banana"_s, 0, QString(), QString()}, context, done);
+        m_client.setApiKey(u"not-the-key"_s);
+        const auto result = await<ServiceResult<FoodSearchPage>>([this](QObject *context, auto done) {
+            requestFoodSearch(m_client, {u"banana"_s, 0, QString(), QString()}, context, done);
         });
         QVERIFY(result);
         QCOMPARE(std::get<ServiceFailure>(*result), ServiceFailure::ServerError);
@@ -162,6 +166,7 @@ private slots:
 
 private:
     std::unique_ptr<FoodServiceProcess> m_service;
+    ServiceClient m_client;
 };
 
 QTEST_GUILESS_MAIN(FoodServiceTest)

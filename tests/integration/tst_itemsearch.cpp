@@ -1,8 +1,8 @@
-#include "ApiKey.h"
 #include "EnvironmentVariables.h"
 #include "FoodServiceProcess.h"
 #include "ItemSearchUIView.h"
 #include "RecordingServer.h"
+#include "ServiceProbes.h"
 #include "StdoutCapture.h"
 
 #include <QTcpServer>
@@ -38,6 +38,12 @@ QList<QUrlQuery> searches(const RecordingServer &server)
     return queries;
 }
 
+// The screen sends through the session's client.
+void pointAt(const QString &origin)
+{
+    probe::pointAt(*EnvironmentVariables::shared()->serviceClient(), origin);
+}
+
 QStringList offsets(const RecordingServer &server)
 {
     QStringList result;
@@ -59,13 +65,11 @@ class ItemSearchTest : public QObject
     }
 
 private slots:
-    void init() { qputenv("NUTRIKA_CA_CERT", (RecordingServer::tlsDirectory() + u"/ca.pem"_s).toUtf8()); }
-
     void pagesFollowTheOffsetAndTheFilters()
     {
         RecordingServer server;
         server.setReply({200, page(120, 2, 0)});
-        qputenv("NUTRIKA_SERVICE_ORIGIN", server.origin().toUtf8());
+        pointAt(server.origin());
         ItemSearchUIView view;
 
         view.onFinishTyping(u"banana"_s);
@@ -123,7 +127,7 @@ private slots:
         QFETCH(bool, loads);
         RecordingServer server;
         server.setReply({200, page(100, generic, branded)});
-        qputenv("NUTRIKA_SERVICE_ORIGIN", server.origin().toUtf8());
+        pointAt(server.origin());
         ItemSearchUIView view;
         view.onFinishTyping(u"apple"_s);
         settle(view, server, 2);
@@ -156,8 +160,7 @@ private slots:
         closed.close();
         RecordingServer server;
         server.setReply({status, status == 200 ? QByteArray("<html>") : QByteArray(R"({"detail":"x"})")});
-        qputenv("NUTRIKA_SERVICE_ORIGIN", status == 0 ? "https://127.0.0.1:" + QByteArray::number(closedPort)
-                                                      : server.origin().toUtf8());
+        pointAt(status == 0 ? u"https://127.0.0.1:%1"_s.arg(closedPort) : server.origin());
         ItemSearchUIView view;
         QCOMPARE(view.errorMessageTitle(), u"Error"_s);
         QCOMPARE(view.errorMessageBody(), u"An Unknown Error Has Occoured"_s);
@@ -178,9 +181,10 @@ private slots:
     {
         FoodServiceProcess service(QStringLiteral(NUTRIKA_FOOD_DB));
         QVERIFY2(service.isReady(), qPrintable(service.errorString()));
-        qputenv("NUTRIKA_SERVICE_ORIGIN", service.origin().toUtf8());
-        qputenv("NUTRIKA_CA_CERT", service.caPath().toUtf8());
-        API_KEY = service.apiKey();
+        ServiceClient *client = EnvironmentVariables::shared()->serviceClient();
+        client->setOrigin(QUrl(service.origin()));
+        client->setCaCertificates(QSslCertificate::fromPath(service.caPath()));
+        client->setApiKey(service.apiKey());
         ItemSearchUIView view;
 
         view.onFinishTyping(u"banana"_s);
@@ -210,7 +214,7 @@ private slots:
         QFETCH(QString, text);
         RecordingServer server;
         server.setReply({200, page(count, 0, 0)});
-        qputenv("NUTRIKA_SERVICE_ORIGIN", server.origin().toUtf8());
+        pointAt(server.origin());
         ItemSearchUIView view;
         QCOMPARE(view.countText(), QString());
         view.onFinishTyping(u"x"_s);

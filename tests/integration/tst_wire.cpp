@@ -1,6 +1,4 @@
-#include "ApiKey.h"
 #include "RecordingServer.h"
-#include "RequestFrame.h"
 #include "ServiceProbes.h"
 
 #include <QTest>
@@ -13,17 +11,13 @@ class WireTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        qputenv("NUTRIKA_CA_CERT", (RecordingServer::tlsDirectory() + u"/ca.pem"_s).toUtf8());
-    }
-
     void init()
     {
         m_server = std::make_unique<RecordingServer>();
         m_server->setReply({200, "{}"});
-        qputenv("NUTRIKA_SERVICE_ORIGIN", m_server->origin().toUtf8());
-        API_KEY = u"test-key"_s;
+        m_client = std::make_unique<ServiceClient>();
+        probe::pointAt(*m_client, m_server->origin());
+        m_client->setApiKey(u"test-key"_s);
     }
 
     void sendsExactRequestLines_data()
@@ -63,7 +57,7 @@ private slots:
         QFETCH(Probe, probe);
         QFETCH(QByteArray, target);
         QFETCH(bool, authorized);
-        QVERIFY(!probe::run(probe).isEmpty());
+        QVERIFY(!probe::run(*m_client, probe).isEmpty());
         QCOMPARE(m_server->requests().size(), 1);
         const RecordingServer::Request &request = m_server->requests().constFirst();
         QCOMPARE(request.requestLine, "GET " + target + " HTTP/1.1");
@@ -72,8 +66,8 @@ private slots:
 
     void addsOnlyTheAuthorizationHeader()
     {
-        QVERIFY(!probe::run(probe::portions(1)).isEmpty());
-        QVERIFY(!probe::run(probe::picture(1)).isEmpty());
+        QVERIFY(!probe::run(*m_client, probe::portions(1)).isEmpty());
+        QVERIFY(!probe::run(*m_client, probe::picture(1)).isEmpty());
         QList<QByteArray> json = m_server->requests().at(0).headerNames();
         const QList<QByteArray> raw = m_server->requests().at(1).headerNames();
         json.removeAll("authorization");
@@ -98,8 +92,8 @@ private slots:
         QFETCH(QStringList, keys);
         QFETCH(QList<QByteArray>, lines);
         for (const QString &key : keys) {
-            API_KEY = key;
-            QVERIFY(!probe::run(probe::accompanyingFoods(1)).isEmpty());
+            m_client->setApiKey(key);
+            QVERIFY(!probe::run(*m_client, probe::accompanyingFoods(1)).isEmpty());
         }
         QList<QByteArray> sent;
         for (const RecordingServer::Request &request : m_server->requests()) {
@@ -113,6 +107,7 @@ private slots:
 
 private:
     std::unique_ptr<RecordingServer> m_server;
+    std::unique_ptr<ServiceClient> m_client;
 };
 
 QTEST_GUILESS_MAIN(WireTest)

@@ -4,11 +4,14 @@
 #include "ExampleData.h"
 
 #include <QObject>
+#include <QtQmlIntegration>
 
 /// Lets the QML tests reset the session, count "Close" actions and find the screenshot folder.
 class SessionProbe : public QObject
 {
     Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
     Q_PROPERTY(int dismissCount READ dismissCount NOTIFY dismissCountChanged)
     Q_PROPERTY(QString screenshotDir READ screenshotDir CONSTANT)
 

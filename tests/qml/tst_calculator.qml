@@ -71,7 +71,7 @@ TestCase {
         compare(findChild(calculator, "totalAmount").text, "0 g")
         compare(findChild(calculator, "backRow").visible, false) // neither back nor "Close" here
         // The search container is pushed once its look is part of the module.
-        const searchLook = Destinations.screen("SearchContainerUIView").toString() !== ""
+        const searchLook = String(Destinations.screen("SearchContainerUIView")) !== ""
         tryCompare(root.navigation, "depth", searchLook ? 2 : 1)
         tryCompare(root.navigation, "busy", false)
         shoot(root, "calculator-empty-opens-search")

@@ -4,8 +4,9 @@
 #include "NutrientsRequest.h"
 #include "PortionImageRequest.h"
 #include "PortionsRequest.h"
-#include "RequestFrame.h"
+#include "ServiceClient.h"
 
+#include <QSignalSpy>
 #include <QTest>
 
 using namespace nutrika;
@@ -138,7 +139,7 @@ private slots:
         QCOMPARE(reply.body, body);
     }
 
-    void takesTheOriginFromTheEnvironment_data()
+    void readsTheOverridesOnceAtCreation_data()
     {
         QTest::addColumn<QByteArray>("variable");
         QTest::addColumn<QString>("origin");
@@ -147,13 +148,43 @@ private slots:
         QTest::newRow("trailing slash") << QByteArray("https://local.test/") << u"https://local.test"_s;
     }
 
-    void takesTheOriginFromTheEnvironment()
+    void readsTheOverridesOnceAtCreation()
     {
         QFETCH(QByteArray, variable);
         QFETCH(QString, origin);
         qputenv("NUTRIKA_SERVICE_ORIGIN", variable);
-        QCOMPARE(serviceOrigin(), origin);
+        qputenv("NUTRIKA_CA_CERT", NUTRIKA_TEST_TLS_DIR "/ca.pem");
+        ServiceClient client;
+        qputenv("NUTRIKA_SERVICE_ORIGIN", "https://later.test");
+        qunsetenv("NUTRIKA_CA_CERT");
+        QCOMPARE(client.originText(), origin);
+        QCOMPARE(client.caCertificates(), QSslCertificate::fromPath(NUTRIKA_TEST_TLS_DIR "/ca.pem"_L1));
         qunsetenv("NUTRIKA_SERVICE_ORIGIN");
+    }
+
+    void keepsTheOriginAsRequestsBeginIt_data()
+    {
+        QTest::addColumn<QUrl>("origin");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("plain") << QUrl(u"https://food.example.org"_s) << u"https://food.example.org"_s;
+        QTest::newRow("trailing slashes")
+            << QUrl(u"https://food.example.org//"_s) << u"https://food.example.org"_s;
+        QTest::newRow("port") << QUrl(u"https://127.0.0.1:8443/"_s) << u"https://127.0.0.1:8443"_s;
+        QTest::newRow("international host")
+            << QUrl(u"https://bäcker.example/"_s) << u"https://xn--bcker-gra.example"_s;
+    }
+
+    void keepsTheOriginAsRequestsBeginIt()
+    {
+        QFETCH(QUrl, origin);
+        QFETCH(QString, text);
+        ServiceClient client;
+        QSignalSpy changed(&client, &ServiceClient::originChanged);
+        client.setOrigin(origin);
+        QCOMPARE(client.originText(), text);
+        QCOMPARE(client.origin(), QUrl(text));
+        client.setOrigin(origin);
+        QCOMPARE(changed.size(), 1);
     }
 };
 

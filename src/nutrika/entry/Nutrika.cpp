@@ -1,13 +1,14 @@
 #include "nutrika/Nutrika.h"
 
-#include "ApiKey.h"
 #include "CarbCounterUIView.h"
+#include "EnvironmentVariables.h"
 #include "Look.h"
 
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQmlExtensionPlugin>
 #include <QQuickWidget>
+#include <QScreen>
 #include <QVBoxLayout>
 
 // The module is a static QML plugin: a host that reaches initNutrika also gets the plugin registered.
@@ -24,7 +25,7 @@ void prepareNutrikaEngine(QQmlEngine &engine)
 
 QWidget *initNutrika(const QString &apiKey, std::function<void()> onDismissCallback)
 {
-    API_KEY = apiKey;
+    EnvironmentVariables::shared()->serviceClient()->setApiKey(apiKey);
 
     auto *container = new QWidget;
     container->setWindowTitle(u"Nutrika"_s);
@@ -54,6 +55,8 @@ QWidget *initNutrika(const QString &apiKey, std::function<void()> onDismissCallb
     view->setFocus();
 
     QObject::connect(calculator, &CarbCounterUIView::dismissPresentation, container, &QWidget::close);
+    // Without a window manager nobody grants full screen; the window then keeps this size.
+    container->setGeometry(container->screen()->availableGeometry());
     container->setWindowState(Qt::WindowFullScreen);
     return container;
 }

@@ -8,6 +8,10 @@ FocusScope {
 
     property CarbCounterUIView calculator: CarbCounterUIView {}
     readonly property alias navigation: navigation
+    // The food-data service key and origin for every request of the process; left empty, the ones
+    // already set stay.
+    property string apiKey
+    property url serviceOrigin
 
     // The host's callback, for a host that embeds this item in QML.
     signal dismissCallback()
@@ -15,6 +19,22 @@ FocusScope {
     Connections {
         target: root.calculator
         function onDismissCallback() { root.dismissCallback() }
+    }
+
+    Binding {
+        target: EnvironmentVariables.serviceClient
+        property: "apiKey"
+        value: root.apiKey
+        when: root.apiKey !== ""
+        restoreMode: Binding.RestoreNone
+    }
+
+    Binding {
+        target: EnvironmentVariables.serviceClient
+        property: "origin"
+        value: root.serviceOrigin
+        when: String(root.serviceOrigin) !== ""
+        restoreMode: Binding.RestoreNone
     }
 
     Keys.onEscapePressed: event => {

@@ -1,6 +1,6 @@
 #include "AccompanyingFoodsRequest.h"
 
-#include "RequestFrame.h"
+#include "ServiceClient.h"
 #include "ServiceFood.h"
 
 #include <QJsonArray>
@@ -26,16 +26,17 @@ ServiceResult<QList<FoodItem>> mapAccompanyingFoodsReply(const ServiceReply &rep
     return foods;
 }
 
-void requestAccompanyingFoods(qint64 foodId, QObject *context,
+void requestAccompanyingFoods(ServiceClient &client, qint64 foodId, QObject *context,
                               std::function<void(std::optional<QList<FoodItem>> foods)> done)
 {
-    sendJsonRequest(accompanyingFoodsPath(foodId), {}, context, [done = std::move(done)](const ServiceReply &reply) {
-        ServiceResult<QList<FoodItem>> result = mapAccompanyingFoodsReply(reply);
-        if (auto *foods = std::get_if<QList<FoodItem>>(&result))
-            done(std::move(*foods));
-        else
-            done(std::nullopt);
-    });
+    client.sendJsonRequest(accompanyingFoodsPath(foodId), {}, context,
+                           [done = std::move(done)](const ServiceReply &reply) {
+                               ServiceResult<QList<FoodItem>> result = mapAccompanyingFoodsReply(reply);
+                               if (auto *foods = std::get_if<QList<FoodItem>>(&result))
+                                   done(std::move(*foods));
+                               else
+                                   done(std::nullopt);
+                           });
 }
 
 } // namespace nutrika

@@ -3,12 +3,14 @@
 #include "FoodItem.h"
 #include "ServiceFailure.h"
 
-#include <QList>
-#include <QObject>
 #include <functional>
 #include <optional>
+#include <QList>
+#include <QObject>
 
 namespace nutrika {
+
+class ServiceClient;
 
 [[nodiscard]] QString accompanyingFoodsPath(qint64 foodId);
 
@@ -17,7 +19,7 @@ namespace nutrika {
 [[nodiscard]] ServiceResult<QList<FoodItem>> mapAccompanyingFoodsReply(const ServiceReply &reply);
 
 /// Sends the request for the food's `id`; any failure passes nullopt without a word.
-void requestAccompanyingFoods(qint64 foodId, QObject *context,
+void requestAccompanyingFoods(ServiceClient &client, qint64 foodId, QObject *context,
                               std::function<void(std::optional<QList<FoodItem>> foods)> done);
 
 } // namespace nutrika

@@ -2,7 +2,7 @@
 
 #include "Diagnostics.h"
 #include "ReplyFields.h"
-#include "RequestFrame.h"
+#include "ServiceClient.h"
 
 #include <QJsonArray>
 
@@ -16,8 +16,9 @@ std::optional<QStringList> labels(const QJsonValue &options)
 {
     QStringList result;
     for (const QJsonValue option : options.toArray()) {
-        std::optional<QString> label = option.isObject() ? lenient::string(option.toObject().value("label"_L1))
-                                                         : lenient::string(option);
+        std::optional<QString> label = option.isObject()
+                                           ? lenient::string(option.toObject().value("label"_L1))
+                                           : lenient::string(option);
         if (!label)
             return std::nullopt;
         result.append(std::move(*label));
@@ -49,19 +50,19 @@ ServiceResult<FilterOptions> mapFilterOptionsReply(const ServiceReply &reply)
     return FilterOptions{std::move(*brands), std::move(*categories)};
 }
 
-void requestFilterOptions(const QString &search, QObject *context,
+void requestFilterOptions(ServiceClient &client, const QString &search, QObject *context,
                           std::function<void(const std::optional<FilterOptions> &)> done)
 {
-    sendJsonRequest(filterOptionsPath(), filterOptionsParameters(search), context,
-                    [done = std::move(done)](const ServiceReply &reply) {
-                        ServiceResult<FilterOptions> result = mapFilterOptionsReply(reply);
-                        if (auto *options = std::get_if<FilterOptions>(&result)) {
-                            done(std::move(*options));
-                            return;
-                        }
-                        printDiagnostic(u"Error loading brands/categories");
-                        done(std::nullopt);
-                    });
+    client.sendJsonRequest(filterOptionsPath(), filterOptionsParameters(search), context,
+                           [done = std::move(done)](const ServiceReply &reply) {
+                               ServiceResult<FilterOptions> result = mapFilterOptionsReply(reply);
+                               if (auto *options = std::get_if<FilterOptions>(&result)) {
+                                   done(std::move(*options));
+                                   return;
+                               }
+                               printDiagnostic(u"Error loading brands/categories");
+                               done(std::nullopt);
+                           });
 }
 
 } // namespace nutrika

@@ -3,12 +3,14 @@
 #include "QueryEncoding.h"
 #include "ServiceFailure.h"
 
-#include <QObject>
-#include <QStringList>
 #include <functional>
 #include <optional>
+#include <QObject>
+#include <QStringList>
 
 namespace nutrika {
+
+class ServiceClient;
 
 /// Brand and category labels for a search text, in the service's order, without the "All" entries.
 struct FilterOptions
@@ -25,7 +27,7 @@ struct FilterOptions
 [[nodiscard]] ServiceResult<FilterOptions> mapFilterOptionsReply(const ServiceReply &reply);
 
 /// Sends the request; on any failure writes "Error loading brands/categories" and passes nullopt.
-void requestFilterOptions(const QString &search, QObject *context,
+void requestFilterOptions(ServiceClient &client, const QString &search, QObject *context,
                           std::function<void(const std::optional<FilterOptions> &)> done);
 
 } // namespace nutrika

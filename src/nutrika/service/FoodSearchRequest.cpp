@@ -2,7 +2,7 @@
 
 #include "Diagnostics.h"
 #include "ReplyFields.h"
-#include "RequestFrame.h"
+#include "ServiceClient.h"
 #include "ServiceFood.h"
 
 #include <QJsonArray>
@@ -49,16 +49,16 @@ ServiceResult<FoodSearchPage> mapFoodSearchReply(const ServiceReply &reply)
     return page;
 }
 
-void requestFoodSearch(const FoodSearchQuery &query, QObject *context,
+void requestFoodSearch(ServiceClient &client, const FoodSearchQuery &query, QObject *context,
                        std::function<void(const ServiceResult<FoodSearchPage> &)> done)
 {
-    sendJsonRequest(foodSearchPath(), foodSearchParameters(query), context,
-                    [done = std::move(done)](const ServiceReply &reply) {
-                        const ServiceResult<FoodSearchPage> result = mapFoodSearchReply(reply);
-                        if (const auto *failure = std::get_if<ServiceFailure>(&result))
-                            printDiagnostic(failureMessage(*failure).body);
-                        done(result);
-                    });
+    client.sendJsonRequest(foodSearchPath(), foodSearchParameters(query), context,
+                           [done = std::move(done)](const ServiceReply &reply) {
+                               const ServiceResult<FoodSearchPage> result = mapFoodSearchReply(reply);
+                               if (const auto *failure = std::get_if<ServiceFailure>(&result))
+                                   printDiagnostic(failureMessage(*failure).body);
+                               done(result);
+                           });
 }
 
 } // namespace nutrika

@@ -4,11 +4,13 @@
 #include "QueryEncoding.h"
 #include "ServiceFailure.h"
 
+#include <functional>
 #include <QList>
 #include <QObject>
-#include <functional>
 
 namespace nutrika {
+
+class ServiceClient;
 
 /// Foods asked for per page; the screen adds it to its offset after each good reply.
 inline constexpr qint64 FOOD_SEARCH_PAGE_SIZE = 50;
@@ -38,7 +40,7 @@ struct FoodSearchPage
 [[nodiscard]] ServiceResult<FoodSearchPage> mapFoodSearchReply(const ServiceReply &reply);
 
 /// Sends the search; on failure, writes the failure's diagnostic line before calling `done`.
-void requestFoodSearch(const FoodSearchQuery &query, QObject *context,
+void requestFoodSearch(ServiceClient &client, const FoodSearchQuery &query, QObject *context,
                        std::function<void(const ServiceResult<FoodSearchPage> &)> done);
 
 } // namespace nutrika

@@ -1,11 +1,11 @@
 #include "NutrientsRequest.h"
 
 #include "ReplyFields.h"
-#include "RequestFrame.h"
+#include "ServiceClient.h"
 #include "Totals.h"
 
-#include <QJsonArray>
 #include <cmath>
+#include <QJsonArray>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -67,17 +67,17 @@ ServiceResult<PortionNutrients> mapNutrientsReply(const ServiceReply &reply)
     return result;
 }
 
-void requestNutrients(const FoodItem &food, const PortionItem &portion, QObject *context,
-                      std::function<void(const std::optional<PortionNutrients> &)> done)
+void requestNutrients(ServiceClient &client, const FoodItem &food, const PortionItem &portion,
+                      QObject *context, std::function<void(const std::optional<PortionNutrients> &)> done)
 {
-    sendJsonRequest(nutrientsPath(food._id), nutrientsParameters(portion), context,
-                    [done = std::move(done)](const ServiceReply &reply) {
-                        ServiceResult<PortionNutrients> result = mapNutrientsReply(reply);
-                        if (auto *nutrients = std::get_if<PortionNutrients>(&result))
-                            done(std::move(*nutrients));
-                        else
-                            done(std::nullopt);
-                    });
+    client.sendJsonRequest(nutrientsPath(food._id), nutrientsParameters(portion), context,
+                           [done = std::move(done)](const ServiceReply &reply) {
+                               ServiceResult<PortionNutrients> result = mapNutrientsReply(reply);
+                               if (auto *nutrients = std::get_if<PortionNutrients>(&result))
+                                   done(std::move(*nutrients));
+                               else
+                                   done(std::nullopt);
+                           });
 }
 
 } // namespace nutrika

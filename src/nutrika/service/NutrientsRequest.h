@@ -6,12 +6,14 @@
 #include "QueryEncoding.h"
 #include "ServiceFailure.h"
 
-#include <QList>
-#include <QObject>
 #include <functional>
 #include <optional>
+#include <QList>
+#include <QObject>
 
 namespace nutrika {
+
+class ServiceClient;
 
 /// The nutrients of one portion: the tracked one ("Carbohydrates") apart, every other in reply order.
 struct PortionNutrients
@@ -31,7 +33,7 @@ struct PortionNutrients
 [[nodiscard]] ServiceResult<PortionNutrients> mapNutrientsReply(const ServiceReply &reply);
 
 /// Sends the request for one portion of the food; any failure passes nullopt without a word.
-void requestNutrients(const FoodItem &food, const PortionItem &portion, QObject *context,
-                      std::function<void(const std::optional<PortionNutrients> &)> done);
+void requestNutrients(ServiceClient &client, const FoodItem &food, const PortionItem &portion,
+                      QObject *context, std::function<void(const std::optional<PortionNutrients> &)> done);
 
 } // namespace nutrika

@@ -1,6 +1,6 @@
 #include "PortionImageRequest.h"
 
-#include "RequestFrame.h"
+#include "ServiceClient.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -8,13 +8,13 @@ namespace nutrika {
 
 namespace {
 
-void requestPicture(const QString &pathWithQuery, QObject *context,
+void requestPicture(ServiceClient &client, const QString &pathWithQuery, QObject *context,
                     std::function<void(const std::optional<QImage> &)> done)
 {
-    sendRawRequest(pathWithQuery, context,
-                   [done = std::move(done)](std::optional<int> status, const QByteArray &body) {
-                       done(mapPortionImage(status, body));
-                   });
+    client.sendRawRequest(pathWithQuery, context,
+                          [done = std::move(done)](std::optional<int> status, const QByteArray &body) {
+                              done(mapPortionImage(status, body));
+                          });
 }
 
 } // namespace
@@ -39,16 +39,16 @@ std::optional<QImage> mapPortionImage(std::optional<int> status, const QByteArra
     return image;
 }
 
-void requestPortionThumbnail(qint64 portionId, QObject *context,
+void requestPortionThumbnail(ServiceClient &client, qint64 portionId, QObject *context,
                              std::function<void(const std::optional<QImage> &)> done)
 {
-    requestPicture(portionThumbnailPath(portionId), context, std::move(done));
+    requestPicture(client, portionThumbnailPath(portionId), context, std::move(done));
 }
 
-void requestPortionImage(qint64 portionId, QObject *context,
+void requestPortionImage(ServiceClient &client, qint64 portionId, QObject *context,
                          std::function<void(const std::optional<QImage> &)> done)
 {
-    requestPicture(portionImagePath(portionId), context, std::move(done));
+    requestPicture(client, portionImagePath(portionId), context, std::move(done));
 }
 
 } // namespace nutrika

@@ -1,12 +1,14 @@
 #pragma once
 
+#include <functional>
+#include <optional>
 #include <QByteArray>
 #include <QImage>
 #include <QObject>
-#include <functional>
-#include <optional>
 
 namespace nutrika {
+
+class ServiceClient;
 
 /// Paths of a portion's pictures, by the portion's `id`.
 [[nodiscard]] QString portionThumbnailPath(qint64 portionId);
@@ -17,9 +19,9 @@ namespace nutrika {
 [[nodiscard]] std::optional<QImage> mapPortionImage(std::optional<int> status, const QByteArray &body);
 
 /// Fetch a portion's thumbnail or full-size picture, without an Authorization header.
-void requestPortionThumbnail(qint64 portionId, QObject *context,
+void requestPortionThumbnail(ServiceClient &client, qint64 portionId, QObject *context,
                              std::function<void(const std::optional<QImage> &)> done);
-void requestPortionImage(qint64 portionId, QObject *context,
+void requestPortionImage(ServiceClient &client, qint64 portionId, QObject *context,
                          std::function<void(const std::optional<QImage> &)> done);
 
 } // namespace nutrika

@@ -2,7 +2,7 @@
 
 #include "Diagnostics.h"
 #include "ReplyFields.h"
-#include "RequestFrame.h"
+#include "ServiceClient.h"
 
 #include <QJsonArray>
 
@@ -78,18 +78,19 @@ ServiceResult<QList<PortionItem>> mapPortionsReply(const ServiceReply &reply)
     return result;
 }
 
-void requestPortions(qint64 foodId, QObject *context,
+void requestPortions(ServiceClient &client, qint64 foodId, QObject *context,
                      std::function<void(const std::optional<QList<PortionItem>> &)> done)
 {
-    sendJsonRequest(portionsPath(foodId), {}, context, [done = std::move(done)](const ServiceReply &reply) {
-        ServiceResult<QList<PortionItem>> result = mapPortionsReply(reply);
-        if (auto *portions = std::get_if<QList<PortionItem>>(&result)) {
-            done(std::move(*portions));
-            return;
-        }
-        printDiagnostic(failureMessage(std::get<ServiceFailure>(result)).body);
-        done(std::nullopt);
-    });
+    client.sendJsonRequest(portionsPath(foodId), {}, context,
+                           [done = std::move(done)](const ServiceReply &reply) {
+                               ServiceResult<QList<PortionItem>> result = mapPortionsReply(reply);
+                               if (auto *portions = std::get_if<QList<PortionItem>>(&result)) {
+                                   done(std::move(*portions));
+                                   return;
+                               }
+                               printDiagnostic(failureMessage(std::get<ServiceFailure>(result)).body);
+                               done(std::nullopt);
+                           });
 }
 
 } // namespace nutrika

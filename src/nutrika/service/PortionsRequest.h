@@ -3,12 +3,14 @@
 #include "PortionItem.h"
 #include "ServiceFailure.h"
 
-#include <QList>
-#include <QObject>
 #include <functional>
 #include <optional>
+#include <QList>
+#include <QObject>
 
 namespace nutrika {
+
+class ServiceClient;
 
 [[nodiscard]] QString portionsPath(qint64 foodId);
 
@@ -17,7 +19,7 @@ namespace nutrika {
 [[nodiscard]] ServiceResult<QList<PortionItem>> mapPortionsReply(const ServiceReply &reply);
 
 /// Sends the request; on failure writes the failure's diagnostic line and passes nullopt.
-void requestPortions(qint64 foodId, QObject *context,
+void requestPortions(ServiceClient &client, qint64 foodId, QObject *context,
                      std::function<void(const std::optional<QList<PortionItem>> &)> done);
 
 } // namespace nutrika

@@ -7,7 +7,7 @@
 namespace nutrika {
 
 EnvironmentVariables::EnvironmentVariables()
-    : m_recipeList(new RecipeList(this))
+    : m_serviceClient(new ServiceClient(this)), m_recipeList(new RecipeList(this))
 {
     QJSEngine::setObjectOwnership(this, QJSEngine::CppOwnership);
     // Whatever thread wins the first use, the session lives on the interface thread.

@@ -3,6 +3,7 @@
 #include "DiaryEntry.h"
 #include "FoodItem.h"
 #include "RecipeList.h"
+#include "ServiceClient.h"
 
 #include <QObject>
 #include <QtQmlIntegration>
@@ -30,6 +31,8 @@ class EnvironmentVariables : public QObject
                    accompanimentsActiveChanged)
     Q_PROPERTY(bool editRecipeActive READ editRecipeActive WRITE setEditRecipeActive NOTIFY editRecipeActiveChanged)
     Q_PROPERTY(nutrika::RecipeList *recipeList READ recipeList NOTIFY recipeListChanged)
+    /// The one client of the food-data service; screens pass it to every request.
+    Q_PROPERTY(nutrika::ServiceClient *serviceClient READ serviceClient CONSTANT)
 
 public:
     /// The process-wide session, created on first use (safely, even if first use races) and never destroyed.
@@ -58,6 +61,8 @@ public:
     [[nodiscard]] bool editRecipeActive() const { return m_editRecipeActive; }
     /// Leaving ingredient mode (false) always discards the ingredient list, even if already false.
     void setEditRecipeActive(bool active);
+
+    [[nodiscard]] ServiceClient *serviceClient() const { return m_serviceClient; }
 
     [[nodiscard]] RecipeList *recipeList() const { return m_recipeList; }
     /// Replaces the saved-meal list; the session takes ownership.
@@ -90,6 +95,7 @@ private:
     bool m_accompanimentsActive = false;
     std::optional<FoodItem> m_foodItemForAccompaniments;
     bool m_editRecipeActive = false;
+    ServiceClient *m_serviceClient;
     RecipeList *m_recipeList;
     QList<DiaryEntryPtr> m_trackedNutrientListItems;
     QList<DiaryEntryPtr> m_currentRecipeItems;

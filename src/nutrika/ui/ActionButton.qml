@@ -24,7 +24,7 @@ Button {
 
     contentItem: Text {
         text: button.symbol !== "" ? Look.symbol(button.symbol) : button.text
-        font.family: button.symbol !== "" ? Look.symbolFont : Qt.application.font.family
+        font.family: button.symbol !== "" ? Look.symbolFont : button.font.family
         font.pixelSize: button.pixelSize
         font.bold: button.bold
         color: button.textColor

@@ -34,6 +34,9 @@ Rectangle {
         Repeater {
             model: picker.options
 
+            // Qt 6.4 cannot create every component bound to its file (ComponentBehavior: Bound), so the
+            // components below reach ids outside them, which the linter counts as unqualified access.
+            // qmllint disable unqualified
             delegate: Item {
                 id: segment
                 required property int index
@@ -83,6 +86,7 @@ Rectangle {
                     onTapped: picker.choose(segment.index)
                 }
             }
+            // qmllint enable unqualified
         }
     }
 

@@ -64,7 +64,7 @@ QtObject {
                 dismissed()
             return
         }
-        if (active && !screen && !backedOut && destinationUrl.toString() !== "") {
+        if (active && !screen && !backedOut && String(destinationUrl) !== "") {
             const initial = Object.assign({ navigation: navigation, presentationMode: link }, properties)
             pushing = true
             screen = navigation.push(destinationUrl, initial)

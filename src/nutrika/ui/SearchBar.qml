@@ -45,7 +45,6 @@ Rectangle {
             font.pixelSize: 20
             color: Look.lightGray
             Accessible.ignored: true
-            rotation: 0
             RotationAnimation on rotation {
                 running: bar.isAnimating
                 from: 0; to: 360; duration: 2000; loops: Animation.Infinite

@@ -23,7 +23,6 @@ Item {
         anchors.fill: parent
         color: spinner.outerColor
         lineWidth: spinner.lineWidth
-        rotation: 0
         NumberAnimation on rotation {
             from: 0; to: 360; duration: 1400; loops: Animation.Infinite; running: spinner.isAnimating
         }
@@ -35,7 +34,6 @@ Item {
         scale: 0.75
         color: spinner.innerColor
         lineWidth: spinner.lineWidth
-        rotation: 360
         NumberAnimation on rotation {
             from: 360; to: 0; duration: 1400; loops: Animation.Infinite; running: spinner.isAnimating
         }

@@ -27,7 +27,9 @@ CarbCounterUIView::CarbCounterUIView(std::function<void()> onDismissCallback, QO
     : QObject(parent)
     , m_onDismissCallback(std::move(onDismissCallback))
     , m_lines(new CalculatorLinesModel(EnvironmentVariables::shared(), this))
-    , m_request(&requestAccompanyingFoods)
+    , m_request([](qint64 foodId, QObject *context, FoodsDone done) {
+        requestAccompanyingFoods(*EnvironmentVariables::shared()->serviceClient(), foodId, context, std::move(done));
+    })
     , m_showTimer(new QTimer(this))
 {
     connect(m_lines, &CalculatorLinesModel::totalChanged, this, &CarbCounterUIView::totalChanged);

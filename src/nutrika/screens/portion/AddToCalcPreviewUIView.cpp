@@ -79,7 +79,7 @@ void AddToCalcPreviewUIView::fetchNutrients()
     emit isLoadingChanged();
     const DiaryEntryPtr entry = m_diaryEntry;
     // The answer fills the line even when this screen has gone: the line may already be on a list.
-    requestNutrients(*entry->foodItem(), *entry->portion(), entry.data(),
+    requestNutrients(*EnvironmentVariables::shared()->serviceClient(), *entry->foodItem(), *entry->portion(), entry.data(),
                      [entry, self = QPointer(this)](const std::optional<PortionNutrients> &answer) {
                          if (answer) {
                              entry->setNutrients(answer->nutrients);

@@ -1,5 +1,6 @@
 #include "PortionPicture.h"
 
+#include "EnvironmentVariables.h"
 #include "PortionImageRequest.h"
 
 #include <QPainter>
@@ -21,10 +22,11 @@ void PortionPicture::load()
         emit self->imageChanged();
         self->update();
     };
+    ServiceClient &client = *EnvironmentVariables::shared()->serviceClient();
     if (m_fullSize)
-        requestPortionImage(m_portionId, this, done);
+        requestPortionImage(client, m_portionId, this, done);
     else
-        requestPortionThumbnail(m_portionId, this, done);
+        requestPortionThumbnail(client, m_portionId, this, done);
 }
 
 void PortionPicture::paint(QPainter *painter)

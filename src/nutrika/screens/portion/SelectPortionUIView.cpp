@@ -1,5 +1,6 @@
 #include "SelectPortionUIView.h"
 
+#include "EnvironmentVariables.h"
 #include "ExampleData.h"
 #include "PortionsRequest.h"
 
@@ -51,7 +52,7 @@ void SelectPortionUIView::loadData()
     emit portionsChanged();
     m_isLoading = true;
     emit isLoadingChanged();
-    requestPortions(m_selectedFood.id, this, [self = QPointer(this)](const std::optional<QList<PortionItem>> &portions) {
+    requestPortions(*EnvironmentVariables::shared()->serviceClient(), m_selectedFood.id, this, [self = QPointer(this)](const std::optional<QList<PortionItem>> &portions) {
         if (!self)
             return;
         self->m_isLoading = false;

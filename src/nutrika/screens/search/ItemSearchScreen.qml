@@ -91,6 +91,9 @@ FocusScope {
             Accessible.role: Accessible.List
             Accessible.name: qsTr("Search results")
 
+            // Qt 6.4 cannot create every component bound to its file (ComponentBehavior: Bound), so the
+            // components below reach ids outside them, which the linter counts as unqualified access.
+            // qmllint disable unqualified
             delegate: Loader {
                 id: rowLoader
                 required property int index
@@ -117,6 +120,7 @@ FocusScope {
                     }
                 }
             }
+            // qmllint enable unqualified
         }
     }
 
@@ -147,8 +151,9 @@ FocusScope {
     NavigationLink {
         id: portionLink
         navigation: screen.navigation
-        active: EnvironmentVariables.portionActive !== -1
-                && EnvironmentVariables.portionActive === screen.uiView.selectedFood.id
+        // Qt 6.4's linter has no type information for 64-bit integers; the engine reads them well.
+        active: EnvironmentVariables.portionActive !== -1 // qmllint disable type
+                && EnvironmentVariables.portionActive === screen.uiView.selectedFood.id // qmllint disable type
         writesBack: false
         destination: Destinations.SelectPortion
         properties: ({ selectedFood: screen.uiView.selectedFood })

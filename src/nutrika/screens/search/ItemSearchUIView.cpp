@@ -42,18 +42,19 @@ void ItemSearchUIView::loadSearchData()
     const FoodSearchQuery query{m_debouncedText, m_offset,
                                 m_brandFilterValue == ALL_BRANDS ? QString() : m_brandFilterValue,
                                 m_categoryFilterValue == ALL_CATEGORIES ? QString() : m_categoryFilterValue};
-    requestFoodSearch(query, this, [this, generation = m_generation](const ServiceResult<FoodSearchPage> &result) {
-        if (generation != m_generation)
-            return;
-        m_pageInFlight.reset();
-        setLoading(false);
-        if (const auto *failure = std::get_if<ServiceFailure>(&result)) {
-            const FailureMessage message = failureMessage(*failure);
-            showError(message.body, message.title);
-            return;
-        }
-        applyPage(std::get<FoodSearchPage>(result));
-    });
+    requestFoodSearch(*EnvironmentVariables::shared()->serviceClient(), query, this,
+                      [this, generation = m_generation](const ServiceResult<FoodSearchPage> &result) {
+                          if (generation != m_generation)
+                              return;
+                          m_pageInFlight.reset();
+                          setLoading(false);
+                          if (const auto *failure = std::get_if<ServiceFailure>(&result)) {
+                              const FailureMessage message = failureMessage(*failure);
+                              showError(message.body, message.title);
+                              return;
+                          }
+                          applyPage(std::get<FoodSearchPage>(result));
+                      });
 }
 
 void ItemSearchUIView::applyPage(const FoodSearchPage &page)
@@ -70,7 +71,7 @@ void ItemSearchUIView::applyPage(const FoodSearchPage &page)
 
 void ItemSearchUIView::getFilterOptions()
 {
-    requestFilterOptions(m_debouncedText, this,
+    requestFilterOptions(*EnvironmentVariables::shared()->serviceClient(), m_debouncedText, this,
                          [this, generation = m_generation](const std::optional<FilterOptions> &options) {
                              if (generation != m_generation || !options)
                                  return;

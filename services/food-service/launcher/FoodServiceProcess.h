@@ -4,7 +4,7 @@
 #include <QSslConfiguration>
 #include <QString>
 
-// Runs `nutrika-food-service serve` on a free loopback port for one test.
+// Runs `nutrika-food-service serve` on a free loopback port, for the demo host and the tests.
 //
 //   FoodServiceProcess service(QStringLiteral(NUTRIKA_FOOD_DB));
 //   QVERIFY2(service.isReady(), qPrintable(service.errorString()));
@@ -12,19 +12,21 @@
 //   request.setRawHeader("Authorization", "Api-Key " + service.apiKey().toUtf8());
 //   request.setSslConfiguration(service.sslConfiguration());
 //
-// The constructor returns once the service listens (or failed to start); the
-// destructor stops it with SIGTERM.
+// The constructor returns once the service listens (or failed to start); the destructor stops it
+// with SIGTERM. The service also gets SIGTERM when the thread that started it ends, so it never
+// outlives its owner, even one killed with SIGKILL.
 class FoodServiceProcess
 {
 public:
     explicit FoodServiceProcess(const QString &databasePath,
-                                const QString &apiKey = QStringLiteral("test-api-key"));
+                                const QString &apiKey = QStringLiteral("test-api-key"),
+                                const QString &program = serviceBinary());
     ~FoodServiceProcess();
     FoodServiceProcess(const FoodServiceProcess &) = delete;
     FoodServiceProcess &operator=(const FoodServiceProcess &) = delete;
 
     [[nodiscard]] bool isReady() const { return !m_origin.isEmpty(); }
-    // Why the service is not ready, with its error output.
+    // Why the service is not ready.
     [[nodiscard]] QString errorString() const { return m_error; }
 
     // "https://127.0.0.1:<port>", without a trailing slash.
@@ -40,8 +42,13 @@ public:
 
     // The service program the build made.
     [[nodiscard]] static QString serviceBinary();
+    // A key nobody can guess, for a service that lives as long as one run of a program.
+    [[nodiscard]] static QString randomApiKey();
 
 private:
+    void start(const QString &program, const QString &databasePath);
+    [[nodiscard]] bool readReadyLine();
+
     QProcess m_process;
     QString m_apiKey;
     QString m_origin;

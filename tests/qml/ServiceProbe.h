@@ -1,6 +1,5 @@
 #pragma once
 
-#include "ApiKey.h"
 #include "EnvironmentVariables.h"
 #include "FoodServiceProcess.h"
 
@@ -12,13 +11,16 @@
 #include <QNetworkReply>
 #include <QObject>
 #include <QUrlQuery>
+#include <QtQmlIntegration>
 #include <memory>
 
-/// Runs the local food-data service for the screen tests, points the module at it, and answers the
-/// tests' own questions straight from the service, past the module's code.
+/// Runs the local food-data service for the screen tests, points the session's client at it, and
+/// answers the tests' own questions straight from the service, past the module's code.
 class ServiceProbe : public QObject
 {
     Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
     Q_PROPERTY(bool ready READ ready CONSTANT)
     Q_PROPERTY(QString screenshotDir READ screenshotDir CONSTANT)
 
@@ -26,9 +28,10 @@ public:
     ServiceProbe()
         : m_service(std::make_unique<FoodServiceProcess>(QStringLiteral(NUTRIKA_FOOD_DB)))
     {
-        qputenv("NUTRIKA_SERVICE_ORIGIN", m_service->origin().toUtf8());
-        qputenv("NUTRIKA_CA_CERT", m_service->caPath().toUtf8());
-        nutrika::API_KEY = m_service->apiKey();
+        nutrika::ServiceClient *client = nutrika::EnvironmentVariables::shared()->serviceClient();
+        client->setOrigin(QUrl(m_service->origin()));
+        client->setCaCertificates(QSslCertificate::fromPath(m_service->caPath()));
+        client->setApiKey(m_service->apiKey());
     }
 
     [[nodiscard]] bool ready() const { return m_service && m_service->isReady(); }

@@ -1,0 +1,99 @@
+#include "DemoOptions.h"
+
+#include <cstdio>
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QFileInfo>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+bool hasArgument(int argc, char **argv, const QList<QByteArrayView> &names)
+{
+    for (int i = 1; i < argc; ++i) {
+        const QByteArrayView argument(argv[i]);
+        for (const QByteArrayView name : names) {
+            if (argument == name ||
+                (argument.startsWith(name) && argument.sliced(name.size()).startsWith('=')))
+                return true;
+        }
+    }
+    return false;
+}
+
+int usageError(const QString &message)
+{
+    std::fprintf(stderr, "%s: %s\n",
+                 qPrintable(QFileInfo(QCoreApplication::applicationFilePath()).fileName()),
+                 qPrintable(message));
+    return 2;
+}
+
+bool isOrigin(const QUrl &url)
+{
+    return url.isValid() && url.scheme() == u"https" && !url.host().isEmpty() &&
+           (url.path().isEmpty() || url.path() == u"/") && !url.hasQuery() && !url.hasFragment() &&
+           url.userInfo().isEmpty();
+}
+
+} // namespace
+
+std::unique_ptr<QCoreApplication> createApplication(int &argc, char **argv)
+{
+    if (hasArgument(argc, argv, {"-h", "--help"}))
+        return std::make_unique<QCoreApplication>(argc, argv);
+    if (hasArgument(argc, argv, {"--preview"}))
+        return std::make_unique<QGuiApplication>(argc, argv);
+    return std::make_unique<QApplication>(argc, argv);
+}
+
+std::variant<DemoOptions, int> parseDemoOptions(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(u"A host application that opens the Nutrika carb calculator.\n"
+                                     u"Without --service-origin it starts the bundled food-data service."_s);
+    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption preview(u"preview"_s, u"Show <screen> with sample data; without a name, list the screens."_s,
+                                     u"screen"_s);
+    const QCommandLineOption screenshot(u"screenshot"_s, u"Save the view as <file.png> and exit."_s,
+                                        u"file.png"_s);
+    const QCommandLineOption origin(
+        u"service-origin"_s, u"Use the food-data service at <URL>, such as https://food.example.org."_s,
+        u"URL"_s);
+    const QCommandLineOption apiKey(u"api-key"_s, u"Send <KEY> as the service's API key."_s, u"KEY"_s);
+    const QCommandLineOption caCert(
+        u"ca-cert"_s, u"Trust the certificate authorities in the PEM <FILE> as well."_s, u"FILE"_s);
+    parser.addOptions({preview, screenshot, origin, apiKey, caCert});
+    if (!parser.parse(arguments))
+        return usageError(parser.errorText());
+    if (parser.isSet(help)) {
+        std::fputs(qPrintable(parser.helpText()), stdout);
+        return 0;
+    }
+    if (!parser.positionalArguments().isEmpty())
+        return usageError(u"unexpected argument \"%1\""_s.arg(parser.positionalArguments().constFirst()));
+
+    DemoOptions options;
+    options.preview = parser.value(preview);
+    options.screenshot = parser.value(screenshot);
+    if (parser.isSet(origin)) {
+        options.serviceOrigin = QUrl(parser.value(origin), QUrl::StrictMode);
+        if (!isOrigin(options.serviceOrigin))
+            return usageError(
+                u"--service-origin needs an https origin such as https://food.example.org, not \"%1\""_s.arg(
+                    parser.value(origin)));
+    }
+    options.apiKey = parser.value(apiKey);
+    if (parser.isSet(apiKey) && options.apiKey.isEmpty())
+        return usageError(u"--api-key needs a key"_s);
+    if (options.apiKey.contains(u'\n') || options.apiKey.contains(u'\r'))
+        return usageError(u"--api-key must not hold a line break"_s);
+    for (const QString &file : parser.values(caCert)) {
+        const QList<QSslCertificate> certificates = QSslCertificate::fromPath(file, QSsl::Pem);
+        if (certificates.isEmpty())
+            return usageError(u"--ca-cert: \"%1\" holds no PEM certificate"_s.arg(file));
+        options.caCertificates += certificates;
+    }
+    return options;
+}

@@ -1,7 +1,0 @@
-#include "ApiKey.h"
-
-namespace nutrika {
-
-QString API_KEY;
-
-} // namespace nutrika

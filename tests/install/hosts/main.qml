@@ -1,0 +1,9 @@
+import QtQuick
+import Nutrika
+
+// The module's root with the key and the service origin this host was started with.
+NutrikaRoot {
+    serviceOrigin: String(Qt.application.arguments[1])
+    apiKey: Qt.application.arguments[2]
+    onDismissCallback: Qt.quit()
+}
