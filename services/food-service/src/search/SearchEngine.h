@@ -2,6 +2,8 @@
 
 #include "db/ConnectionPool.h"
 #include "search/Catalog.h"
+#include "search/EatenForms.h"
+#include "search/SearchTerms.h"
 #include "search/SpellingCorrector.h"
 
 #include <string>
@@ -17,7 +19,8 @@ struct RankedFood
 };
 
 // Full-text food search: case and accents do not matter, every word must match as
-// a word prefix, and a misspelt word is corrected when nothing matches as typed.
+// a word prefix, in another form or through a synonym, and a misspelt word is
+// corrected when nothing matches as typed. Foods in the form people eat them rank first.
 class SearchEngine
 {
 public:
@@ -31,10 +34,16 @@ public:
 
 private:
     [[nodiscard]] std::vector<RankedFood> lookUp(const std::vector<std::string> &words) const;
+    [[nodiscard]] std::size_t indexOf(const FoodRecord &food) const;
 
     const Catalog &m_catalog;
     ConnectionPool &m_pool;
     SpellingCorrector m_corrector;
+    SearchWords m_searchWords;
+    EatenForms m_eatenForms;
+    // Per food, by catalog position: the eaten-form rules that apply and their total.
+    std::vector<std::vector<EatenForms::RuleIndex>> m_rules;
+    std::vector<int> m_eatenScore;
 };
 
 } // namespace foodservice
