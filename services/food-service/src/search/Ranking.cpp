@@ -21,15 +21,20 @@ struct Match
     bool whole = false;
 };
 
-// The first whole-word occurrence, else the first prefix occurrence.
+bool contains(const std::vector<std::string> &forms, std::string_view word)
+{
+    return std::find(forms.begin(), forms.end(), word) != forms.end();
+}
+
+// The first whole-word occurrence, else the first prefix or singular occurrence.
 Match findWord(const std::vector<std::string> &words, std::string_view searched,
-               const std::vector<std::string> &forms)
+               const std::vector<std::string> &forms, const std::vector<std::string> &singulars)
 {
     Match match;
     for (std::size_t i = 0; i < words.size(); ++i) {
-        if (isWholeWord(words[i], searched) || std::find(forms.begin(), forms.end(), words[i]) != forms.end())
+        if (isWholeWord(words[i], searched) || contains(forms, words[i]))
             return {static_cast<int>(i), true};
-        if (match.position < 0 && words[i].starts_with(searched))
+        if (match.position < 0 && (words[i].starts_with(searched) || contains(singulars, words[i])))
             match.position = static_cast<int>(i);
     }
     return match;
@@ -41,7 +46,7 @@ Match findPhrase(const std::vector<std::string> &words, const std::vector<std::s
     static const std::vector<std::string> noForms;
     Match match{static_cast<int>(words.size()), true};
     for (const auto &word : phrase) {
-        const Match found = findWord(words, word, noForms);
+        const Match found = findWord(words, word, noForms, noForms);
         if (found.position < 0)
             return {};
         match.position = std::min(match.position, found.position);
@@ -76,7 +81,7 @@ int matchScore(const FoodRecord &food, const Match &match, bool firstTerm)
 
 bool answers(const SearchTerm &term, std::string_view word)
 {
-    return word.starts_with(term.typed) || std::find(term.forms.begin(), term.forms.end(), word) != term.forms.end();
+    return word.starts_with(term.typed) || contains(term.forms, word) || contains(term.singulars, word);
 }
 
 int relevance(const FoodRecord &food, const std::vector<SearchTerm> &terms)
@@ -90,7 +95,7 @@ int relevance(const FoodRecord &food, const std::vector<SearchTerm> &terms)
     int score = 0;
     for (std::size_t k = 0; k < terms.size(); ++k) {
         const auto &term = terms[k];
-        int best = matchScore(food, findWord(food.words, term.typed, term.forms), k == 0);
+        int best = matchScore(food, findWord(food.words, term.typed, term.forms, term.singulars), k == 0);
         for (const auto &phrase : term.synonyms)
             best = std::max(best, matchScore(food, findPhrase(food.words, phrase), k == 0));
         score += best;

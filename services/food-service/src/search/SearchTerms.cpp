@@ -23,7 +23,7 @@ std::string ftsWord(std::string_view word)
 
 } // namespace
 
-std::vector<std::string> wordForms(std::string_view word)
+std::vector<std::string> singularForms(std::string_view word)
 {
     std::vector<std::string> forms;
     if (word.size() < shortestInflected)
@@ -37,10 +37,15 @@ std::vector<std::string> wordForms(std::string_view word)
         forms.push_back(stem(1));
     } else if (word.ends_with('s') && !word.ends_with("ss") && !word.ends_with("us")) {
         forms.push_back(stem(1));
-    } else if (word.ends_with('y') && !isVowel(word[word.size() - 2])) {
-        forms.push_back(stem(1) + "ies");
     }
     return forms;
+}
+
+std::vector<std::string> pluralForms(std::string_view word)
+{
+    if (word.size() < shortestInflected || !word.ends_with('y') || isVowel(word[word.size() - 2]))
+        return {};
+    return {std::string(word.substr(0, word.size() - 1)) + "ies"};
 }
 
 std::string matchExpression(const std::vector<SearchTerm> &terms)
@@ -51,6 +56,8 @@ std::string matchExpression(const std::vector<SearchTerm> &terms)
             expression += " AND ";
         expression += '(' + ftsWord(term.typed) + '*';
         for (const auto &form : term.forms)
+            expression += " OR " + ftsWord(form);
+        for (const auto &form : term.singulars)
             expression += " OR " + ftsWord(form);
         for (const auto &phrase : term.synonyms) {
             expression += " OR (";
@@ -89,7 +96,7 @@ std::vector<SearchTerm> SearchWords::terms(const std::vector<std::string> &words
     std::vector<SearchTerm> terms;
     terms.reserve(words.size());
     for (const auto &word : words) {
-        SearchTerm term{word, wordForms(word), {}};
+        SearchTerm term{word, pluralForms(word), singularForms(word), {}};
         if (const auto found = m_synonyms.find(word); found != m_synonyms.end())
             term.synonyms = found->second;
         terms.push_back(std::move(term));

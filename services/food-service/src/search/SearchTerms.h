@@ -12,15 +12,20 @@ struct SearchTerm
 {
     // As typed, folded: matches any word it starts.
     std::string typed;
-    // Singular or plural spellings, matched as whole words ("cherry" -> "cherries").
+    // Plurals not spelt by adding "s" or "es", matched as whole words ("cherry" -> "cherries").
     std::vector<std::string> forms;
+    // Singulars of a plural, matched as whole words but ranked as a looser match: "grape
+    // leaves" answers "grapes" less well than "grapes" does.
+    std::vector<std::string> singulars;
     // What the food table calls an everyday word, each a phrase whose words must all
     // be present, each as a word prefix ("ketchup" -> catsup, "soda" -> carbonated beverage).
     std::vector<std::vector<std::string>> synonyms;
 };
 
-// The other spellings of a folded word: singular for a plural, plural for a word in -y.
-[[nodiscard]] std::vector<std::string> wordForms(std::string_view word);
+// The singulars of a folded plural word ("cherries" -> "cherry", "cherrie").
+[[nodiscard]] std::vector<std::string> singularForms(std::string_view word);
+// The plural of a folded word in -y ("cherry" -> "cherries"); other plurals are word prefixes.
+[[nodiscard]] std::vector<std::string> pluralForms(std::string_view word);
 
 // The FTS5 expression matching foods that answer every term.
 [[nodiscard]] std::string matchExpression(const std::vector<SearchTerm> &terms);
