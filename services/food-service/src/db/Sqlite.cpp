@@ -35,7 +35,8 @@ std::string immutableUri(const std::string &path)
 Connection::Connection(const std::string &path, Mode mode)
 {
     const bool readOnly = mode == Mode::ReadOnly;
-    const int flags = readOnly ? SQLITE_OPEN_READONLY | SQLITE_OPEN_URI : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
+    const int flags =
+        readOnly ? SQLITE_OPEN_READONLY | SQLITE_OPEN_URI : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
     const std::string name = readOnly ? immutableUri(path) : path;
     if (sqlite3_open_v2(name.c_str(), &m_db, flags | SQLITE_OPEN_NOMUTEX, nullptr) != SQLITE_OK) {
         const std::string message =

@@ -37,9 +37,8 @@ std::vector<std::string> phrases(const nlohmann::json &rule, const char *key)
 
 bool hasAny(std::string_view folded, const std::vector<std::string> &phrases)
 {
-    return phrases.empty() || std::any_of(phrases.begin(), phrases.end(), [&](const auto &phrase) {
-               return matchesPhrase(folded, phrase);
-           });
+    return phrases.empty() || std::any_of(phrases.begin(), phrases.end(),
+                                          [&](const auto &phrase) { return matchesPhrase(folded, phrase); });
 }
 
 bool names(const SearchTerm &term, std::string_view word)
@@ -54,7 +53,10 @@ EatenForms::EatenForms(std::string_view json)
     try {
         const auto table = nlohmann::json::parse(json);
         for (const auto &entry : table.at("rules")) {
-            Rule rule{strings(entry, "groups"), phrases(entry, "foods"), phrases(entry, "words"), {},
+            Rule rule{strings(entry, "groups"),
+                      phrases(entry, "foods"),
+                      phrases(entry, "words"),
+                      {},
                       entry.at("score").get<int>()};
             if (!entry.at("why").is_string())
                 throw std::runtime_error("every rule says why");
@@ -79,8 +81,8 @@ std::vector<EatenForms::RuleIndex> EatenForms::rulesFor(const FoodRecord &food) 
     std::vector<RuleIndex> applying;
     for (std::size_t i = 0; i < m_rules.size(); ++i) {
         const auto &rule = m_rules[i];
-        const bool inGroup = rule.groups.empty() ||
-                             std::find(rule.groups.begin(), rule.groups.end(), food.category) != rule.groups.end();
+        const bool inGroup = rule.groups.empty() || std::find(rule.groups.begin(), rule.groups.end(),
+                                                              food.category) != rule.groups.end();
         if (inGroup && hasAny(folded, rule.foods) && hasAny(folded, rule.words))
             applying.push_back(static_cast<RuleIndex>(i));
     }
