@@ -14,9 +14,9 @@ constexpr std::size_t maxSearchWords = 12;
 
 } // namespace
 
-SearchEngine::SearchEngine(const Catalog &catalog, ConnectionPool &pool)
-    : m_catalog(catalog), m_pool(pool), m_corrector(catalog.vocabulary()), m_searchWords(searchWordTable()),
-      m_eatenForms(eatenFormTable())
+SearchEngine::SearchEngine(const Catalog &catalog)
+    : m_catalog(catalog), m_index(catalog), m_corrector(catalog.vocabulary()),
+      m_searchWords(searchWordTable()), m_eatenForms(eatenFormTable())
 {
     m_rules.reserve(catalog.foods().size());
     m_eatenScore.reserve(catalog.foods().size());
@@ -27,11 +27,6 @@ SearchEngine::SearchEngine(const Catalog &catalog, ConnectionPool &pool)
             total += m_eatenForms.score(rule);
         m_eatenScore.push_back(total);
     }
-}
-
-std::size_t SearchEngine::indexOf(const FoodRecord &food) const
-{
-    return static_cast<std::size_t>(&food - m_catalog.foods().data());
 }
 
 std::vector<RankedFood> SearchEngine::matches(std::string_view text) const
@@ -62,20 +57,14 @@ std::vector<RankedFood> SearchEngine::lookUp(const std::vector<std::string> &wor
     const auto setAside = m_eatenForms.setAsideBy(terms);
     const bool anySetAside = std::find(setAside.begin(), setAside.end(), true) != setAside.end();
     std::vector<RankedFood> found;
-    auto lease = m_pool.acquire();
-    auto &query = lease->prepared("SELECT rowid FROM food_search WHERE food_search MATCH ?");
-    query.bind(1, matchExpression(terms));
-    while (query.step()) {
-        const auto *food = m_catalog.find(query.integer(0));
-        if (!food)
-            continue;
-        const auto index = indexOf(*food);
+    for (const auto index : m_index.lookUp(terms)) {
+        const auto &food = m_catalog.foods()[index];
         int eaten = m_eatenScore[index];
         if (anySetAside) {
             for (const auto rule : m_rules[index])
                 eaten -= setAside[rule] ? m_eatenForms.score(rule) : 0;
         }
-        found.push_back({relevance(*food, terms) + eaten, food});
+        found.push_back({relevance(food, terms) + eaten, &food});
     }
     return found;
 }

@@ -15,12 +15,6 @@ bool isVowel(char c)
     return c == 'a' || c == 'e' || c == 'i' || c == 'o' || c == 'u';
 }
 
-// Folded words hold only letters and digits, so quoting them is enough.
-std::string ftsWord(std::string_view word)
-{
-    return '"' + std::string(word) + '"';
-}
-
 } // namespace
 
 std::vector<std::string> singularForms(std::string_view word)
@@ -46,28 +40,6 @@ std::vector<std::string> pluralForms(std::string_view word)
     if (word.size() < shortestInflected || !word.ends_with('y') || isVowel(word[word.size() - 2]))
         return {};
     return {std::string(word.substr(0, word.size() - 1)) + "ies"};
-}
-
-std::string matchExpression(const std::vector<SearchTerm> &terms)
-{
-    std::string expression;
-    for (const auto &term : terms) {
-        if (!expression.empty())
-            expression += " AND ";
-        expression += '(' + ftsWord(term.typed) + '*';
-        for (const auto &form : term.forms)
-            expression += " OR " + ftsWord(form);
-        for (const auto &form : term.singulars)
-            expression += " OR " + ftsWord(form);
-        for (const auto &phrase : term.synonyms) {
-            expression += " OR (";
-            for (std::size_t i = 0; i < phrase.size(); ++i)
-                expression += (i == 0 ? "" : " AND ") + ftsWord(phrase[i]) + '*';
-            expression += ')';
-        }
-        expression += ')';
-    }
-    return expression;
 }
 
 SearchWords::SearchWords(std::string_view json)

@@ -27,9 +27,6 @@ struct SearchTerm
 // The plural of a folded word in -y ("cherry" -> "cherries"); other plurals are word prefixes.
 [[nodiscard]] std::vector<std::string> pluralForms(std::string_view word);
 
-// The FTS5 expression matching foods that answer every term.
-[[nodiscard]] std::string matchExpression(const std::vector<SearchTerm> &terms);
-
 // Turns folded search words into terms, with the synonyms of data/search-words.json.
 class SearchWords
 {
