@@ -5,11 +5,12 @@
 #include <string_view>
 #include <vector>
 
-/// Adds the checked-in JSON dictionary and the target's seed inputs to libFuzzer's arguments. Without
-/// them the fuzzer rarely gets past the JSON parser, which is not instrumented. The seeds join only when
+/// Adds the checked-in dictionary (JSON unless named) and the target's seed inputs to libFuzzer's
+/// arguments. Without them the fuzzer rarely gets past the JSON or XML parser, which is not instrumented. The seeds join only when
 /// every input the caller named is a corpus directory, so reproducing one file works as usual, and the
 /// caller's first directory still receives the new inputs.
-inline void addSeedsAndDictionary(int *argc, char ***argv, const char *target)
+inline void addSeedsAndDictionary(int *argc, char ***argv, const char *target,
+                                  const char *dictionary = "json.dict")
 {
     static std::vector<std::string> extra;
     static std::vector<char *> arguments;
@@ -29,7 +30,7 @@ inline void addSeedsAndDictionary(int *argc, char ***argv, const char *target)
     }
     const std::string directory = NUTRIKA_FUZZ_DIR;
     if (!hasDictionary)
-        extra.push_back("-dict=" + directory + "/json.dict");
+        extra.push_back("-dict=" + directory + "/" + dictionary);
     if (hasDirectory && onlyDirectories)
         extra.push_back(directory + "/corpus/" + target);
     arguments.assign(*argv, *argv + *argc);

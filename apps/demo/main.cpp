@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QMap>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickView>
@@ -19,8 +20,19 @@ namespace {
 constexpr QSize previewSize(430, 860);
 
 // Each previewable screen, drawn over its sample data the way a QML host embeds the module.
-const QHash<QString, QByteArray> previews = {
+const QMap<QString, QByteArray> previews = {
     {u"calculator"_s, "import Nutrika\nNutrikaRoot { calculator: CarbCounterUIView { preview: Preview.Main } }\n"},
+    {u"portion"_s, "import QtQuick.Controls.Basic\nimport Nutrika\nStackView { id: s; initialItem: "
+                   "SelectPortionScreen { navigation: s; uiView.preview: Preview.Images } }\n"},
+    {u"portion-descriptions"_s, "import QtQuick.Controls.Basic\nimport Nutrika\nStackView { id: s; initialItem: "
+                                "SelectPortionScreen { navigation: s; uiView.preview: Preview.Descriptions } }\n"},
+    {u"preview-add"_s, "import QtQuick.Controls.Basic\nimport Nutrika\nStackView { id: s; initialItem: "
+                       "AddToCalcPreviewScreen { navigation: s; uiView.preview: Preview.AddNew } }\n"},
+    {u"preview-edit"_s, "import QtQuick.Controls.Basic\nimport Nutrika\nStackView { id: s; initialItem: "
+                        "AddToCalcPreviewScreen { navigation: s; uiView.preview: Preview.Edit } }\n"},
+    {u"suggestions"_s, "import QtQuick\nimport Nutrika\nRectangle { color: \"#808080\"\n"
+                       "Rectangle { anchors.fill: parent; anchors.margins: 20; radius: 14\n"
+                       "FoodAccompanimentsScreen { anchors.fill: parent; uiView.preview: Preview.Main } } }\n"},
 };
 
 int fail(const QString &message)
@@ -62,12 +74,18 @@ int main(int argc, char *argv[])
     QCommandLineParser parser;
     parser.setApplicationDescription(u"A host application that opens the Nutrika carb calculator."_s);
     const QCommandLineOption help = parser.addHelpOption();
-    const QCommandLineOption preview(u"preview"_s, u"Show <screen> with sample data (calculator)."_s, u"screen"_s);
+    const QCommandLineOption preview(u"preview"_s, u"Show <screen> with sample data; without a name, list the screens."_s, u"screen"_s);
     const QCommandLineOption screenshot(u"screenshot"_s, u"Save the view as <file.png> and exit."_s, u"file.png"_s);
     parser.addOptions({preview, screenshot});
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));
+    // "--preview" without a name lists the names.
+    if (const qsizetype at = arguments.indexOf(u"--preview"_s);
+        at > 0 && (at + 1 == arguments.size() || arguments.at(at + 1).startsWith(u'-'))) {
+        std::fputs(qPrintable(u"Screens with a preview: "_s + previews.keys().join(u", "_s) + u'\n'), stdout);
+        return 0;
+    }
     if (!parser.parse(arguments))
         return fail(parser.errorText());
     if (parser.isSet(help)) {

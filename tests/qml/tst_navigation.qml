@@ -17,6 +17,10 @@ TestCase {
         StackView { anchors.fill: parent; initialItem: Item {} }
     }
     Component {
+        id: emptyStackComponent
+        StackView { anchors.fill: parent }
+    }
+    Component {
         id: linkComponent
         NavigationLink { destinationUrl: Qt.resolvedUrl("PushedScreen.qml") }
     }
@@ -106,12 +110,33 @@ TestCase {
         compare(root.navigation.depth, 1)
     }
 
-    function test_screensWithoutALookPushNothing() {
-        compare(Destinations.screen("NoSuchUIView").toString(), "")
-        compare(Destinations.screen("CarbCounterUIView").toString(), "qrc:/qt/qml/Nutrika/screens/CarbCounterScreen.qml")
+    function test_aLinkCreatedWithItsFlagSetPushesOnceTheStackHoldsItsFirstScreen() {
+        // As on a second opening of the module: the flag is still set from the first.
+        const stack = createTemporaryObject(emptyStackComponent, testCase)
+        const link = makeLink(stack, { active: true })
+        compare(stack.depth, 0)
+        stack.push(Qt.resolvedUrl("PushedScreen.qml"), { title: "First" })
+        tryCompare(stack, "depth", 2)
+        compare(stack.currentItem.presentationMode, link)
+    }
+
+    function test_aReadOnlyLinkFollowsAFlagWrittenAgainAfterGoingBack() {
         const stack = createTemporaryObject(stackComponent, testCase)
+        const link = makeLink(stack, { writesBack: false, active: true })
+        tryCompare(stack, "depth", 2)
+        tryCompare(stack, "busy", false)
+        link.dismiss()
+        tryCompare(stack, "depth", 1)
+        tryCompare(stack, "busy", false)
+        link.rearm() // the same row tapped again
+        tryCompare(stack, "depth", 2)
+    }
+
+    function test_aMissingDestinationWarnsAndPushesNothing() {
+        const stack = createTemporaryObject(stackComponent, testCase)
+        ignoreWarning("Destinations: no screen for 99")
         const link = createTemporaryObject(linkComponent, testCase,
-                                           { navigation: stack, destinationUrl: Destinations.screen("NoSuchUIView") })
+                                           { navigation: stack, destinationUrl: Destinations.screen(99) })
         link.active = true
         wait(50)
         compare(stack.depth, 1)

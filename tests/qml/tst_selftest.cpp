@@ -1,4 +1,8 @@
+#include "Destinations.h"
 #include "nutrika/Nutrika.h"
+
+#include <QFile>
+#include <QMetaEnum>
 
 #include <QDirIterator>
 #include <QQmlComponent>
@@ -24,6 +28,16 @@ private slots:
             ++count;
         }
         QVERIFY(count >= 14);
+    }
+
+    // Navigation names its destinations from a closed list; each one must have its screen.
+    void everyDestinationHasItsScreen()
+    {
+        const QMetaEnum screens = QMetaEnum::fromType<nutrika::Destinations::Screen>();
+        for (int i = 0; i < screens.keyCount(); ++i) {
+            const auto screen = nutrika::Destinations::Screen(screens.value(i));
+            QVERIFY2(QFile::exists(u":"_s + nutrika::Destinations::path(screen)), screens.key(i));
+        }
     }
 
     void everyQmlFileLoads()

@@ -1,7 +1,9 @@
 #include "CarbCounterUIView.h"
 #include "EnvironmentVariables.h"
 #include "ExampleData.h"
+#include "Formatting.h"
 
+#include <QAbstractItemModelTester>
 #include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTest>
@@ -16,6 +18,15 @@ DiaryEntryPtr foodLine(double carbsPerPortion, qint64 quantity)
     NutrientValue carbs{u"Carbohydrates"_s, u"grams"_s, carbsPerPortion, 1};
     return DiaryEntryPtr::create(123, example::examplePortionItem(), example::exampleSelectedFood(), quantity,
                                  QList{carbs}, carbs);
+}
+
+// The model's text for one role of every row.
+QStringList column(const CarbCounterUIView &view, CalculatorLinesModel::Role role)
+{
+    QStringList texts;
+    for (int row = 0; row < view.lines()->rowCount(); ++row)
+        texts.append(view.lines()->index(row).data(role).toString());
+    return texts;
 }
 
 FoodItem food(qint64 id, const QString &description)
@@ -55,13 +66,17 @@ private slots:
         QTest::newRow("thousands") << 1005.0 << u"1005 g"_s;
         // Never shorten a real digit: an unrounded 10.05 must not read as 105.
         QTest::newRow("zero digit kept") << 10.05 << u"10.05 g"_s;
+        // Large amounts stay plain decimals: never "1e+05 g".
+        QTest::newRow("hundred thousand") << 100000.0 << u"100000 g"_s;
+        QTest::newRow("stepper maximum") << 1289987.1 << u"1289987.1 g"_s;
+        QTest::newRow("tiny") << 0.00001 << u"0.00001 g"_s;
     }
 
     void amountText()
     {
         QFETCH(double, amount);
         QFETCH(QString, expected);
-        QCOMPARE(CarbCounterUIView::amountText(amount), expected);
+        QCOMPARE(nutrika::amountText(amount), expected);
     }
 
     void linesAmountsAndTotal()
@@ -69,28 +84,46 @@ private slots:
         CarbCounterUIView view;
         env->setTrackedNutrientListItems({example::exampleTrackedNutrient1(), example::exampleTrackedNutrient2(),
                                           example::exampleDiaryRecipeItem1(), example::exampleDiaryRecipeItem2()});
-        QCOMPARE(view.lines().size(), 4);
-        const QStringList titles{view.lineTitle(0), view.lineTitle(1), view.lineTitle(2), view.lineTitle(3)};
-        QCOMPARE(titles, (QStringList{example::exampleSelectedFood().description,
-                                      example::exampleSelectedFood2().description, u"Cheeseburger"_s,
-                                      u"Half A Burger"_s}));
-        const QStringList amounts{view.lineAmount(0), view.lineAmount(1), view.lineAmount(2), view.lineAmount(3)};
-        QCOMPARE(amounts, (QStringList{u"25.8 g"_s, u"12.9 g"_s, u"77.4 g"_s, u"19.4 g"_s}));
-        QVERIFY(view.lineIsFood(0) && !view.lineIsFood(2));
+        QCOMPARE(column(view, CalculatorLinesModel::TitleRole),
+                 (QStringList{example::exampleSelectedFood().description, example::exampleSelectedFood2().description,
+                              u"Cheeseburger"_s, u"Half A Burger"_s}));
+        QCOMPARE(column(view, CalculatorLinesModel::AmountRole),
+                 (QStringList{u"25.8 g"_s, u"12.9 g"_s, u"77.4 g"_s, u"19.4 g"_s}));
+        QCOMPARE(column(view, CalculatorLinesModel::IsFoodRole),
+                 (QStringList{u"true"_s, u"true"_s, u"false"_s, u"false"_s}));
         QCOMPARE(view.totalText(), u"135.5 g"_s);
         QCOMPARE(view.counterHeader(), u"Total Carbohydrates"_s);
     }
 
-    void editingALineMovesTheTotal()
+    // Edits made on other screens, to a line or to an ingredient of a meal line, reach the row and the
+    // total at once.
+    void nestedEditsMoveTheLineAndTheTotal()
     {
         CarbCounterUIView view;
+        QAbstractItemModelTester tester(view.lines(), QAbstractItemModelTester::FailureReportingMode::QtTest);
         const DiaryEntryPtr line = foodLine(4.25, 3);
-        env->setTrackedNutrientListItems({line});
-        QCOMPARE(view.totalText(), u"12.8 g"_s);
+        const DiaryEntryPtr ingredient = foodLine(10, 2);
+        const DiaryEntryPtr inner = DiaryEntryPtr::create(123, RecipeItem{u"Inner"_s, 1, {ingredient}, 2}, 1);
+        const DiaryEntryPtr meal = DiaryEntryPtr::create(123, RecipeItem{u"Meal"_s, 2, {inner}, 1}, 2);
+        env->setTrackedNutrientListItems({line, meal});
+        QCOMPARE(column(view, CalculatorLinesModel::AmountRole), (QStringList{u"12.8 g"_s, u"20 g"_s}));
         QSignalSpy total(&view, &CarbCounterUIView::totalChanged);
+        QSignalSpy rows(view.lines(), &QAbstractItemModel::dataChanged);
+
         line->setQuantity(4);
-        QCOMPARE(total.size(), 1);
-        QCOMPARE(view.totalText(), u"17 g"_s);
+        ingredient->setTrackedNutrient(NutrientValue{u"Carbohydrates"_s, u"grams"_s, 20, 1});
+        QCOMPARE(column(view, CalculatorLinesModel::AmountRole), (QStringList{u"17 g"_s, u"40 g"_s}));
+        QCOMPARE(view.totalText(), u"57 g"_s);
+
+        RecipeItem renamed = *meal->recipeItem();
+        renamed.name = u"Renamed"_s;
+        renamed.items.append(foodLine(1, 1));
+        meal->setRecipeItem(renamed);
+        QCOMPARE(column(view, CalculatorLinesModel::TitleRole)[1], u"Renamed"_s);
+        QCOMPARE(view.totalText(), u"59 g"_s);
+        QVERIFY(total.size() >= 3);
+        QCOMPARE(rows.first().at(0).toModelIndex().row(), 0);
+        QCOMPARE(rows.last().at(0).toModelIndex().row(), 1);
     }
 
     void removeTakesTheLineAtThatPosition()
@@ -98,10 +131,9 @@ private slots:
         CarbCounterUIView view;
         const DiaryEntryPtr a = foodLine(10, 1), b = foodLine(10, 1), c = foodLine(0.5, 1);
         env->setTrackedNutrientListItems({a, b, c});
-        QSignalSpy lines(&view, &CarbCounterUIView::linesChanged);
         view.remove(1); // equal lines are told apart by position
         QCOMPARE(env->TrackedNutrientListItems(), (QList<DiaryEntryPtr>{a, c}));
-        QCOMPARE(lines.size(), 1);
+        QCOMPARE(view.lines()->rowCount(), 2);
         QCOMPARE(view.totalText(), u"10.5 g"_s);
         b->setQuantity(9); // a removed line no longer moves the total
         QCOMPARE(view.totalText(), u"10.5 g"_s);
@@ -120,8 +152,8 @@ private slots:
         CarbCounterUIView view;
         const auto incomplete = DiaryEntryPtr::create(123, example::examplePortionItem(), example::exampleSelectedFood());
         env->setTrackedNutrientListItems({incomplete, foodLine(2, 1)});
-        QCOMPARE(view.lineTitle(0), example::exampleSelectedFood().description);
-        QCOMPARE(view.lineAmount(0), QString());
+        QCOMPARE(column(view, CalculatorLinesModel::TitleRole)[0], example::exampleSelectedFood().description);
+        QCOMPARE(column(view, CalculatorLinesModel::AmountRole)[0], QString());
         QCOMPARE(view.totalText(), u"2 g"_s);
     }
 

@@ -51,9 +51,18 @@ private slots:
 
         container->show();
         QVERIFY(QTest::qWaitForWindowExposed(container.get()));
-        // Shown over an empty calculator, the search is asked for at once.
+        // Shown over an empty calculator, the search opens at once; closed and opened again while the
+        // search was open, the new container shows the search in front as well.
         QTRY_VERIFY(EnvironmentVariables::shared()->searchActive());
         QVERIFY(findItem(container.get(), u"searchMoreButton"_s));
+        QTRY_COMPARE(findItem(container.get(), u"navigation"_s)->property("depth").toInt(), 2);
+        container.reset(initNutrika(u"key-1"_s, [] {}));
+        container->show();
+        QVERIFY(QTest::qWaitForWindowExposed(container.get()));
+        QQuickItem *navigation = findItem(container.get(), u"navigation"_s);
+        QTRY_COMPARE(navigation->property("depth").toInt(), 2);
+        QTRY_VERIFY(findItem(container.get(), u"searchField"_s));
+        QVERIFY(findItem(container.get(), u"searchField"_s)->isVisible());
     }
 
     void aSecondCallReplacesTheKeyAndKeepsTheLines()

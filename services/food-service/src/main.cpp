@@ -12,7 +12,8 @@ constexpr const char *usage =
     "  nutrika-food-service import --source <jar or folder> --db <file>\n"
     "  nutrika-food-service serve --db <file> --port <n, 0 = any free port> --api-key <key>\n"
     "                             [--cert <pem> --key <pem>] [--host <addr>]\n"
-    "  nutrika-food-service bench --db <file> [--seconds <n>]\n";
+    "  nutrika-food-service bench --db <file> [--seconds <n>]\n"
+    "  nutrika-food-service pictures --db <file> --contact-sheet <png>\n";
 
 } // namespace
 
@@ -27,6 +28,8 @@ int main(int argc, char **argv)
             return runServe(CommandLine(argc, argv, {"db", "port", "api-key", "cert", "key", "host"}));
         if (command == "bench")
             return runBench(CommandLine(argc, argv, {"db", "seconds"}));
+        if (command == "pictures")
+            return runPictures(CommandLine(argc, argv, {"db", "contact-sheet"}));
         std::cerr << usage;
         return 2;
     } catch (const UsageError &error) {

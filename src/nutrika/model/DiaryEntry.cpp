@@ -30,6 +30,7 @@ DiaryEntry::DiaryEntry(qint64 id, const RecipeItem &recipe, qint64 quantity)
 {
     m_recipeItem = recipe;
     m_quantity = quantity;
+    watchRecipeLines();
 }
 
 DiaryEntry::DiaryEntry(qint64 id, const PortionItem &portion, const FoodItem &food, qint64 quantity,
@@ -39,6 +40,41 @@ DiaryEntry::DiaryEntry(qint64 id, const PortionItem &portion, const FoodItem &fo
     m_quantity = quantity;
     m_nutrients = std::move(nutrients);
     m_trackedNutrient = std::move(trackedNutrient);
+}
+
+void DiaryEntry::setPortion(const std::optional<PortionItem> &portion)
+{
+    m_portion = portion;
+    emit portionChanged();
+}
+
+void DiaryEntry::setRecipeItem(const std::optional<RecipeItem> &recipe)
+{
+    m_recipeItem = recipe;
+    watchRecipeLines();
+    emit recipeItemChanged();
+    emit titleChanged();
+    emit totalChanged();
+}
+
+void DiaryEntry::watchRecipeLines()
+{
+    for (const QMetaObject::Connection &watch : std::as_const(m_recipeLineWatches))
+        disconnect(watch);
+    m_recipeLineWatches.clear();
+    if (!m_recipeItem)
+        return;
+    for (const DiaryEntryPtr &line : std::as_const(m_recipeItem->items)) {
+        if (line && line.data() != this)
+            m_recipeLineWatches.append(connect(line.data(), &DiaryEntry::totalChanged, this, &DiaryEntry::totalChanged));
+    }
+}
+
+QString DiaryEntry::title() const
+{
+    if (m_type == EntryType::Food)
+        return m_foodItem ? m_foodItem->description : QString();
+    return m_recipeItem ? m_recipeItem->name : QString();
 }
 
 void DiaryEntry::setQuantity(qint64 quantity)
@@ -125,8 +161,10 @@ DiaryEntryPtr DiaryEntry::fromJson(const QJsonValue &value)
         entry->m_portion = PortionItem::fromJson(o.value(u"portion"));
     if (present(u"foodItem"))
         entry->m_foodItem = FoodItem::fromJson(o.value(u"foodItem"));
-    if (present(u"recipeItem"))
+    if (present(u"recipeItem")) {
         entry->m_recipeItem = RecipeItem::fromJson(o.value(u"recipeItem"));
+        entry->watchRecipeLines();
+    }
     entry->m_quantity = json::integer(o, u"quantity");
     if (const QJsonValue nutrients = json::required(o, u"nutrients"); !nutrients.isNull()) {
         const QJsonArray list = json::array(o, u"nutrients");

@@ -22,7 +22,8 @@ Q_ENUM_NS(Value)
 using entryType = EntryType::Value;
 
 /// One calculator line, shared by every list and screen that holds it, so that an edit made on one
-/// screen is seen on all of them. `quantity`, `nutrients` and `trackedNutrient` announce their changes.
+/// screen is seen on all of them. Every change announces itself, and a meal line also announces every
+/// change of the lines inside its meal, so whoever shows a total follows edits made anywhere.
 class DiaryEntry : public QObject
 {
     Q_OBJECT
@@ -34,6 +35,8 @@ class DiaryEntry : public QObject
     Q_PROPERTY(QList<nutrika::NutrientValue> nutrients READ nutrientList NOTIFY nutrientsChanged)
     Q_PROPERTY(bool hasTrackedNutrient READ hasTrackedNutrient NOTIFY trackedNutrientChanged)
     Q_PROPERTY(double total READ totalTrackedNutrient NOTIFY totalChanged)
+    /// The food's description or the meal's name.
+    Q_PROPERTY(QString title READ title NOTIFY titleChanged)
 
 public:
     /// A food line of one portion, without nutrients yet.
@@ -49,8 +52,11 @@ public:
     [[nodiscard]] const std::optional<PortionItem> &portion() const { return m_portion; }
     [[nodiscard]] const std::optional<FoodItem> &foodItem() const { return m_foodItem; }
     [[nodiscard]] const std::optional<RecipeItem> &recipeItem() const { return m_recipeItem; }
-    void setPortion(const std::optional<PortionItem> &portion) { m_portion = portion; }
-    void setRecipeItem(const std::optional<RecipeItem> &recipe) { m_recipeItem = recipe; }
+    void setPortion(const std::optional<PortionItem> &portion);
+    void setRecipeItem(const std::optional<RecipeItem> &recipe);
+
+    /// The food's description or the meal's name; "" when the line lacks its record.
+    [[nodiscard]] QString title() const;
 
     [[nodiscard]] qint64 quantity() const { return m_quantity; }
     void setQuantity(qint64 quantity);
@@ -69,6 +75,9 @@ public:
     [[nodiscard]] static DiaryEntryPtr fromJson(const QJsonValue &value);
 
 signals:
+    void portionChanged();
+    void recipeItemChanged();
+    void titleChanged();
     void quantityChanged();
     void nutrientsChanged();
     void trackedNutrientChanged();
@@ -77,6 +86,8 @@ signals:
 
 private:
     DiaryEntry(qint64 id, entryType type);
+    /// Follows the lines of the meal, so that their changes move this line's total.
+    void watchRecipeLines();
 
     qint64 m_id;
     entryType m_type;
@@ -86,6 +97,7 @@ private:
     qint64 m_quantity = 1;
     std::optional<QList<NutrientValue>> m_nutrients;
     std::optional<NutrientValue> m_trackedNutrient;
+    QList<QMetaObject::Connection> m_recipeLineWatches;
 };
 
 } // namespace nutrika

@@ -12,11 +12,32 @@ FoodItem sampleFood(const char *description)
 {
     return {QString::fromUtf8(description), 999999, 999999, QStringLiteral("Morning Mill"), true};
 }
+
+PortionItem samplePortion(qint64 id, qint64 size, const char *imageName, const char *description)
+{
+    PortionItem portion = basePortionItem();
+    portion.order_num = id;
+    portion.id = portion._id = id;
+    portion.size = size;
+    portion.image_name = QString::fromUtf8(imageName);
+    portion.description = QString::fromUtf8(description);
+    return portion;
+}
 } // namespace
 
 const PortionItem &examplePortionItem()
 {
     return basePortionItem();
+}
+
+const QList<PortionItem> &examplePortions()
+{
+    static const QList<PortionItem> portions{
+        samplePortion(1, 30, "bowl-small", "small bowl"), samplePortion(2, 45, "bowl-medium", "medium bowl"),
+        samplePortion(3, 60, "bowl-large", "large bowl"), samplePortion(4, 15, "", "tablespoon"),
+        samplePortion(5, 240, "", "cup"),
+    };
+    return portions;
 }
 
 const FoodItem &exampleSelectedFood()

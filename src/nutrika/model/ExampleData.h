@@ -9,6 +9,8 @@
 namespace nutrika::example {
 
 [[nodiscard]] const PortionItem &examplePortionItem();
+/// Three pictured and two described portions of a breakfast cereal.
+[[nodiscard]] const QList<PortionItem> &examplePortions();
 [[nodiscard]] const FoodItem &exampleSelectedFood();
 [[nodiscard]] const FoodItem &exampleSelectedFood2();
 

@@ -1,5 +1,9 @@
 #include "Formatting.h"
 
+#include <QtNumeric>
+
+using namespace Qt::Literals::StringLiterals;
+
 #include <array>
 #include <cctype>
 #include <charconv>
@@ -60,6 +64,36 @@ QString formatValueWithUnits(const QString &value, const QString &unit, std::opt
     if (ec != std::errc())
         return value + shortUnit;
     return QString::fromLatin1(buffer.data(), ptr - buffer.data()) + shortUnit;
+}
+
+QString shortestDecimalText(double value)
+{
+    if (!qIsFinite(value))
+        return QString::number(value);
+    // Fixed notation without a precision is the shortest text that round-trips, with no exponent.
+    std::array<char, 400> buffer{};
+    const auto [ptr, ec] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed);
+    QString text = QString::fromLatin1(buffer.data(), ec == std::errc() ? ptr - buffer.data() : 0);
+    if (!text.contains(u'.'))
+        text += u".0"_s;
+    return text;
+}
+
+QString withoutPointZero(QString text)
+{
+    for (qsizetype at = text.indexOf(u".0"); at >= 0; at = text.indexOf(u".0", at)) {
+        const qsizetype after = at + 2;
+        if (after < text.size() && text.at(after).isDigit())
+            at = after;
+        else
+            text.remove(at, 2);
+    }
+    return text;
+}
+
+QString amountText(double amount)
+{
+    return withoutPointZero(shortestDecimalText(amount)) + u" g"_s;
 }
 
 } // namespace nutrika

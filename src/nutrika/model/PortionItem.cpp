@@ -1,10 +1,16 @@
 #include "PortionItem.h"
 
+#include "Formatting.h"
 #include "JsonFields.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace nutrika {
+
+QString PortionItem::sizeText() const
+{
+    return QString::number(size) + formatUnitShort(unit);
+}
 
 QJsonObject ConvertibleUnit::toJson() const
 {

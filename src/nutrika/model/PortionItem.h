@@ -35,6 +35,7 @@ struct PortionItem
     Q_GADGET
     QML_VALUE_TYPE(portionItem)
     Q_PROPERTY(qint64 id MEMBER id)
+    Q_PROPERTY(qint64 _id MEMBER _id)
     Q_PROPERTY(QString unit MEMBER unit)
     Q_PROPERTY(qint64 size MEMBER size)
     Q_PROPERTY(QString image_name MEMBER image_name)
@@ -51,6 +52,9 @@ public:
     QString image_name;
     QString description;
     ConvertibleUnit convertible_unit;
+
+    /// The size and its short unit, as boxes and tables show it: "118g", "2 portion".
+    [[nodiscard]] Q_INVOKABLE QString sizeText() const;
 
     [[nodiscard]] QJsonObject toJson() const;
     /// Throws JsonDecodeError.

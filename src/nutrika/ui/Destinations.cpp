@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QJSEngine>
+#include <QMetaEnum>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -17,15 +18,30 @@ Destinations *Destinations::create(QQmlEngine *, QJSEngine *)
     return instance;
 }
 
-QUrl Destinations::screen(const QString &typeName)
+QString Destinations::path(Screen screen)
 {
-    static const QString suffix = u"UIView"_s;
-    if (!typeName.endsWith(suffix) || typeName.size() == suffix.size())
+    switch (screen) {
+    case SearchContainer:
+        return u"/qt/qml/Nutrika/screens/search/SearchContainerScreen.qml"_s;
+    case SelectPortion:
+        return u"/qt/qml/Nutrika/screens/portion/SelectPortionScreen.qml"_s;
+    case AddToCalcPreview:
+        return u"/qt/qml/Nutrika/screens/portion/AddToCalcPreviewScreen.qml"_s;
+    case CreateRecipe:
+        return u"/qt/qml/Nutrika/screens/meals/CreateRecipeScreen.qml"_s;
+    }
+    return {};
+}
+
+QUrl Destinations::screen(Screen screen)
+{
+    const QString file = path(screen);
+    if (file.isEmpty() || !QFile::exists(u":"_s + file)) {
+        const char *name = QMetaEnum::fromType<Screen>().valueToKey(screen);
+        qWarning("Destinations: no screen for %s", name ? name : qPrintable(QString::number(int(screen))));
         return {};
-    const QString path = u"/qt/qml/Nutrika/screens/"_s + typeName.chopped(suffix.size()) + u"Screen.qml"_s;
-    if (!QFile::exists(u":"_s + path))
-        return {};
-    return QUrl(u"qrc:"_s + path);
+    }
+    return QUrl(u"qrc:"_s + file);
 }
 
 } // namespace nutrika

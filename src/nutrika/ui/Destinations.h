@@ -9,8 +9,8 @@ class QJSEngine;
 
 namespace nutrika {
 
-/// Finds the look of a screen by its type name: `FooUIView` is drawn by screens/FooScreen.qml.
-/// A screen whose look is not part of the module yet has no destination, and its link pushes nothing.
+/// The screens a navigation link can push: a closed list, so a link names a destination the compiler
+/// knows. Each screen's look is a QML file of the module.
 class Destinations : public QObject
 {
     Q_OBJECT
@@ -18,11 +18,16 @@ class Destinations : public QObject
     QML_SINGLETON
 
 public:
+    enum Screen { SearchContainer, SelectPortion, AddToCalcPreview, CreateRecipe };
+    Q_ENUM(Screen)
+
     using QObject::QObject;
     static Destinations *create(QQmlEngine *, QJSEngine *);
 
-    /// The QML file of the screen type `typeName`, or an empty URL.
-    [[nodiscard]] Q_INVOKABLE static QUrl screen(const QString &typeName);
+    /// The resource path of the screen's look.
+    [[nodiscard]] static QString path(Screen screen);
+    /// The QML file of `screen`; warns and returns an empty URL when the module lacks it.
+    [[nodiscard]] Q_INVOKABLE static QUrl screen(nutrika::Destinations::Screen screen);
 };
 
 } // namespace nutrika

@@ -2,23 +2,28 @@ import QtQuick
 import QtQuick.Controls.Basic
 import Nutrika
 
-// One entry of the navigation stack, bound to a flag. While `active` it pushes the screen named by
-// `destination` (a screen type such as "SearchContainerUIView"); when `active` turns false it pops that
-// screen and everything above it. Going back from the screen calls dismiss(): a two-way link emits
-// dismissed() so its owner clears the flag; a read-only link (writesBack false) pops by itself.
+// One entry of the navigation stack, bound to a flag. While `active` it pushes its destination screen;
+// when `active` turns false it pops that screen and everything above it. A link created while its flag
+// is already set pushes as soon as the stack can take it, as a fresh stack would. Going back from the
+// screen calls dismiss(): a two-way link emits dismissed() so its owner clears the flag; a read-only
+// link (writesBack false) pops by itself and waits for the flag to be written again (rearm()).
 QtObject {
     id: link
 
     required property StackView navigation
     property bool active: false
-    property string destination: ""
-    property url destinationUrl: Destinations.screen(destination)
+    // A Destinations screen.
+    property int destination: -1
+    // Tests may push a file of their own.
+    property url destinationUrl: destination < 0 ? "" : Destinations.screen(destination)
     // Extra initial properties of the pushed screen.
     property var properties: ({})
     property bool writesBack: true
     // The pushed screen while it is on the stack.
     property Item screen: null
     property bool backedOut: false
+    // A push in progress changes the stack's current item, which must not start a second push.
+    property bool pushing: false
 
     signal dismissed()
 
@@ -31,21 +36,39 @@ QtObject {
         popScreen()
     }
 
+    // The flag was written again while it stays set: follow the link anew.
+    function rearm() {
+        backedOut = false
+        sync()
+    }
+
     function popScreen() {
         if (!screen)
             return
-        const below = navigation.get(screen.StackView.index - 1)
+        const index = screen.StackView.index
         screen = null
-        navigation.pop(below)
+        if (index > 0)
+            navigation.pop(navigation.get(index - 1))
     }
 
-    // Brings the stack in line with `active`; waits while a transition runs.
+    // Brings the stack in line with `active`; waits while a transition runs and until the stack has
+    // finished showing its first screen.
     function sync() {
-        if (!navigation || navigation.busy)
+        if (!navigation || navigation.busy || !navigation.currentItem || pushing)
             return
+        if (screen && screen.StackView.index < 0) {
+            // A link below this one popped the screen: it stays closed until the flag is written again.
+            screen = null
+            backedOut = true
+            if (writesBack)
+                dismissed()
+            return
+        }
         if (active && !screen && !backedOut && destinationUrl.toString() !== "") {
             const initial = Object.assign({ navigation: navigation, presentationMode: link }, properties)
+            pushing = true
             screen = navigation.push(destinationUrl, initial)
+            pushing = false
         } else if (!active && screen) {
             popScreen()
         }
@@ -58,8 +81,10 @@ QtObject {
     }
     Component.onCompleted: sync()
 
-    property Connections busyWatch: Connections {
+    property Connections stackWatch: Connections {
         target: link.navigation
         function onBusyChanged() { link.sync() }
+        // The stack announces its new screen before it has finished pushing it.
+        function onCurrentItemChanged() { Qt.callLater(link.sync) }
     }
 }

@@ -9,5 +9,6 @@ namespace foodservice {
 [[nodiscard]] std::string_view pairingTable();
 [[nodiscard]] std::string_view eatenFormTable();
 [[nodiscard]] std::string_view searchWordTable();
+[[nodiscard]] std::string_view foodPictureTable();
 
 } // namespace foodservice

@@ -10,6 +10,8 @@ std::string pictureKindOf(std::string_view measureName)
 {
     static const std::map<std::string, std::string, std::less<>> kinds = {{"cup", "cup"},
                                                                           {"cups", "cup"},
+                                                                          {"glass", "glass"},
+                                                                          {"bowl", "bowl"},
                                                                           {"slice", "slice"},
                                                                           {"slices", "slice"},
                                                                           {"piece", "piece"},

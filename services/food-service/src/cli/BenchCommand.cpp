@@ -1,5 +1,6 @@
 #include "bench/Benchmark.h"
 #include "bench/HeldConnections.h"
+#include "bench/PictureBench.h"
 #include "cli/CommandLine.h"
 #include "cli/Commands.h"
 #include "http/FoodServer.h"
@@ -79,6 +80,7 @@ int runBench(const CommandLine &options)
             idleConnections, slowConnections, held.p50, held.p99, goalHeldP99);
         const bool met = ratio <= goalThroughputRatio && search.p50 <= goalP50 && held.p99 <= goalHeldP99;
         std::printf("goals: %s\n", met ? "met" : "NOT met");
+        (void)benchPictures(benchmark, settings.database, cheapest, concurrentClients, seconds);
     } catch (const std::exception &error) {
         std::fprintf(stderr, "bench failed: %s\n", error.what());
         status = 1;

@@ -8,5 +8,6 @@ class CommandLine;
 int runImport(const CommandLine &options);
 int runServe(const CommandLine &options);
 int runBench(const CommandLine &options);
+int runPictures(const CommandLine &options);
 
 } // namespace foodservice

@@ -42,12 +42,12 @@ std::vector<std::int64_t> FoodStore::accompaniments(std::int64_t foodId) const
 std::optional<PortionPictureRow> FoodStore::portionPicture(std::int64_t portionId) const
 {
     auto lease = m_pool.acquire();
-    auto &query = lease->prepared("SELECT p.picture, f.category FROM portion p"
-                                  " JOIN food f ON f.id = p.food_id WHERE p.id = ?");
+    auto &query = lease->prepared("SELECT p.picture, p.description, p.size, f.description, f.category"
+                                  " FROM portion p JOIN food f ON f.id = p.food_id WHERE p.id = ?");
     query.bind(1, portionId);
     if (!query.step())
         return std::nullopt;
-    return PortionPictureRow{query.text(0), query.text(1)};
+    return PortionPictureRow{query.text(0), query.text(1), query.integer(2), query.text(3), query.text(4)};
 }
 
 } // namespace foodservice

@@ -26,9 +26,14 @@ struct NutrientAmount
     double per100g = 0;
 };
 
+// What a portion picture shows: the measure ("cup", "slice", ...), the portion as the
+// portion list describes it, its weight and the food.
 struct PortionPictureRow
 {
     std::string picture;
+    std::string description;
+    std::int64_t grams = 0;
+    std::string foodDescription;
     std::string category;
 };
 

@@ -4,8 +4,6 @@
 #include "http/JsonReplies.h"
 #include "http/Parameters.h"
 #include "http/QueryString.h"
-#include "picture/PngEncoder.h"
-#include "picture/PortionPicture.h"
 
 #include <algorithm>
 #include <charconv>
@@ -24,6 +22,7 @@ constexpr int fullPictureSize = 600;
 constexpr int thumbnailSize = 200;
 constexpr int largestPicture = 1024;
 constexpr int smallestPicture = 16;
+constexpr std::size_t pictureCacheBytes = 64U * 1024U * 1024U;
 
 // A decimal id (a leading minus allowed); nothing for any other text.
 std::optional<std::int64_t> parseId(std::string_view text)
@@ -58,7 +57,8 @@ nlohmann::json labelsByFrequency(const std::map<std::string, int> &counts, std::
 
 FoodApi::FoodApi(const Catalog &catalog, const SearchEngine &search, const FoodStore &store,
                  std::string apiKey)
-    : m_catalog(catalog), m_search(search), m_store(store), m_apiKey(std::move(apiKey))
+    : m_catalog(catalog), m_search(search), m_store(store), m_apiKey(std::move(apiKey)),
+      m_pictureCache(pictureCacheBytes)
 {
     m_serialisedFoods.reserve(catalog.foods().size());
     for (const auto &food : catalog.foods())
@@ -236,10 +236,15 @@ std::string FoodApi::portionImage(std::int64_t portionId, std::string_view query
     const auto height = parameters.integer("height", width, smallestPicture, largestPicture);
     if (width != height)
         throw HttpError(400, "portion pictures are square: width and height must be equal", "height");
+    const int size = static_cast<int>(width);
+    if (const auto kept = m_pictureCache.find(portionId, size))
+        return *kept;
     const auto row = m_store.portionPicture(portionId);
     if (!row || row->picture.empty())
         notFound("portion picture");
-    return encodePng(drawPortionPicture(row->picture, row->category, static_cast<int>(width)));
+    auto picture = std::make_shared<const std::string>(m_pictures.png(*row, size));
+    m_pictureCache.keep(portionId, size, picture);
+    return *picture;
 }
 
 } // namespace foodservice

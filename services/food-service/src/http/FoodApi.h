@@ -1,6 +1,8 @@
 #pragma once
 
 #include "db/FoodStore.h"
+#include "picture/PictureCache.h"
+#include "picture/PortionPictures.h"
 #include "search/Catalog.h"
 #include "search/SearchEngine.h"
 
@@ -47,6 +49,8 @@ private:
     const FoodStore &m_store;
     std::string m_apiKey;
     std::vector<std::string> m_serialisedFoods;
+    PortionPictures m_pictures;
+    mutable PictureCache m_pictureCache;
 };
 
 } // namespace foodservice

@@ -1,13 +1,19 @@
 #pragma once
 
-#include "picture/Canvas.h"
+#include "picture/PictureFonts.h"
+#include "picture/PortionScene.h"
 
-#include <string_view>
+#include <memory>
+
+using cairo_surface_t = struct _cairo_surface;
 
 namespace foodservice {
 
-// A square portion picture: the food group's pictogram in the corner on the group's
-// colour, and the measure (a cup, a slice, a spoon, a small to large piece) drawn large.
-[[nodiscard]] Canvas drawPortionPicture(std::string_view pictureKind, std::string_view category, int size);
+using Surface = std::unique_ptr<cairo_surface_t, void (*)(cairo_surface_t *)>;
+
+// A square portion picture, size × size pixels (RGB24): the food's glyph in or beside its
+// vessel, as many as the measure counts, sized against the plate, and the label
+// "1 medium · 118 g" below. Without a glyph the vessel is drawn alone.
+[[nodiscard]] Surface drawPortionPicture(const PortionScene &scene, const PictureFonts &fonts, int size);
 
 } // namespace foodservice

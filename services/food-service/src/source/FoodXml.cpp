@@ -2,177 +2,145 @@
 
 #include <charconv>
 #include <cmath>
-#include <map>
+#include <cstring>
+#include <expat.h>
+#include <limits>
+#include <memory>
 #include <stdexcept>
 #include <string>
 
 namespace foodservice {
 namespace {
 
-using Attributes = std::map<std::string, std::string, std::less<>>;
+using Attributes = const XML_Char **;
 
-struct Tag
+// Expat calls back into C++ from C: the callbacks record the first problem and stop
+// the parser instead of throwing through it.
+struct FoodReader
 {
-    std::string name;
-    Attributes attributes;
+    XML_Parser parser = nullptr;
+    std::optional<SourceFood> food;
+    std::string problem;
+
+    void fail(std::string why)
+    {
+        if (problem.empty())
+            problem = std::move(why);
+        XML_StopParser(parser, XML_FALSE);
+    }
+    void startElement(std::string_view name, Attributes attributes);
 };
 
-void appendCodePoint(std::string &out, unsigned long code)
+const char *attribute(Attributes attributes, std::string_view name)
 {
-    if (code == 0 || code > 0x10FFFF)
-        throw std::runtime_error("bad character reference");
-    if (code < 0x80) {
-        out += static_cast<char>(code);
-    } else if (code < 0x800) {
-        out += static_cast<char>(0xC0 | (code >> 6));
-        out += static_cast<char>(0x80 | (code & 0x3F));
-    } else if (code < 0x10000) {
-        out += static_cast<char>(0xE0 | (code >> 12));
-        out += static_cast<char>(0x80 | ((code >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (code & 0x3F));
-    } else {
-        out += static_cast<char>(0xF0 | (code >> 18));
-        out += static_cast<char>(0x80 | ((code >> 12) & 0x3F));
-        out += static_cast<char>(0x80 | ((code >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (code & 0x3F));
+    for (auto at = attributes; *at != nullptr; at += 2) {
+        if (name == at[0])
+            return at[1];
     }
+    return nullptr;
 }
 
-std::string decodeEntities(std::string_view raw)
+// Each reader throws std::invalid_argument with the reason, caught in startElement.
+std::string required(std::string_view element, Attributes attributes, std::string_view name)
 {
-    static const std::map<std::string_view, char> named = {
-        {"quot", '"'}, {"amp", '&'}, {"lt", '<'}, {"gt", '>'}, {"apos", '\''}};
-    std::string out;
-    for (std::size_t i = 0; i < raw.size(); ++i) {
-        if (raw[i] != '&') {
-            out += raw[i];
-            continue;
-        }
-        const auto end = raw.find(';', i);
-        if (end == std::string_view::npos)
-            throw std::runtime_error("unterminated entity");
-        const auto entity = raw.substr(i + 1, end - i - 1);
-        if (entity.starts_with('#')) {
-            const bool hex = entity.size() > 1 && (entity[1] == 'x' || entity[1] == 'X');
-            const auto digits = entity.substr(hex ? 2 : 1);
-            unsigned long code = 0;
-            const auto [ptr, ec] =
-                std::from_chars(digits.data(), digits.data() + digits.size(), code, hex ? 16 : 10);
-            if (ec != std::errc() || ptr != digits.data() + digits.size())
-                throw std::runtime_error("bad character reference");
-            appendCodePoint(out, code);
-        } else if (const auto found = named.find(entity); found != named.end()) {
-            out += found->second;
-        } else {
-            throw std::runtime_error("unknown entity &" + std::string(entity) + ";");
-        }
-        i = end;
-    }
-    return out;
-}
-
-bool isSpace(char c)
-{
-    return c == ' ' || c == '\t' || c == '\n' || c == '\r';
-}
-
-// Reads the start tag beginning at xml[at] == '<'; leaves `at` after its '>'.
-Tag readTag(std::string_view xml, std::size_t &at)
-{
-    Tag tag;
-    std::size_t i = at + 1;
-    while (i < xml.size() && !isSpace(xml[i]) && xml[i] != '>' && xml[i] != '/')
-        tag.name += xml[i++];
-    while (true) {
-        while (i < xml.size() && isSpace(xml[i]))
-            ++i;
-        if (i >= xml.size())
-            throw std::runtime_error("unterminated <" + tag.name + "> tag");
-        if (xml[i] == '>' || (xml[i] == '/' && i + 1 < xml.size() && xml[i + 1] == '>')) {
-            at = xml.find('>', i) + 1;
-            return tag;
-        }
-        const auto equals = xml.find('=', i);
-        if (equals == std::string_view::npos || equals + 1 >= xml.size())
-            throw std::runtime_error("bad attribute in <" + tag.name + ">");
-        std::string_view name = xml.substr(i, equals - i);
-        while (!name.empty() && isSpace(name.back()))
-            name.remove_suffix(1);
-        std::size_t open = equals + 1;
-        while (open < xml.size() && isSpace(xml[open]))
-            ++open;
-        if (open >= xml.size() || (xml[open] != '"' && xml[open] != '\''))
-            throw std::runtime_error("unquoted attribute in <" + tag.name + ">");
-        const auto close = xml.find(xml[open], open + 1);
-        if (close == std::string_view::npos)
-            throw std::runtime_error("unterminated attribute in <" + tag.name + ">");
-        tag.attributes.emplace(std::string(name), decodeEntities(xml.substr(open + 1, close - open - 1)));
-        i = close + 1;
-    }
-}
-
-const std::string &required(const Tag &tag, std::string_view name)
-{
-    const auto found = tag.attributes.find(name);
-    if (found == tag.attributes.end())
-        throw std::runtime_error("<" + tag.name + "> lacks " + std::string(name));
-    return found->second;
-}
-
-double number(const Tag &tag, std::string_view name)
-{
-    const std::string &text = required(tag, name);
-    double value = 0;
-    const auto [ptr, ec] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (ec != std::errc() || ptr != text.data() + text.size() || !std::isfinite(value))
-        throw std::runtime_error("<" + tag.name + "> " + std::string(name) + " is not a number: \"" + text +
-                                 "\"");
+    const char *value = attribute(attributes, name);
+    if (value == nullptr)
+        throw std::invalid_argument("<" + std::string(element) + "> lacks " + std::string(name));
     return value;
 }
 
-int foodId(const Tag &tag)
+double number(std::string_view element, Attributes attributes, std::string_view name)
 {
-    const std::string &uid = required(tag, "uid");
+    const std::string text = required(element, attributes, name);
+    double value = 0;
+    const auto [ptr, ec] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (ec != std::errc() || ptr != text.data() + text.size() || !std::isfinite(value))
+        throw std::invalid_argument("<" + std::string(element) + "> " + std::string(name) +
+                                    " is not a number: \"" + text + "\"");
+    return value;
+}
+
+int foodId(Attributes attributes)
+{
+    const std::string uid = required("food", attributes, "uid");
     int id = 0;
     const auto [ptr, ec] = std::from_chars(uid.data(), uid.data() + uid.size(), id);
     if (ec != std::errc() || ptr != uid.data() + uid.size() || id <= 0 || id > 9'999'999)
-        throw std::runtime_error("food uid is not a food number: \"" + uid + "\"");
+        throw std::invalid_argument("food uid is not a food number: \"" + uid + "\"");
     return id;
+}
+
+void FoodReader::startElement(std::string_view name, Attributes attributes)
+{
+    try {
+        if (name == "food") {
+            if (food)
+                throw std::invalid_argument("more than one food in one file");
+            food.emplace();
+            food->id = foodId(attributes);
+            food->name = required(name, attributes, "name");
+            if (food->name.empty())
+                throw std::invalid_argument("food " + std::to_string(food->id) + " has no name");
+        } else if (name == "measure" && food) {
+            SourceMeasure measure{number(name, attributes, "amount"), required(name, attributes, "name"),
+                                  number(name, attributes, "grams")};
+            if (measure.grams < 0 || measure.amount <= 0)
+                throw std::invalid_argument("measure \"" + measure.name + "\" has no positive weight");
+            food->measures.push_back(std::move(measure));
+        } else if (name == "nutrient" && food) {
+            food->nutrients.push_back(
+                {required(name, attributes, "name"), number(name, attributes, "amount")});
+        }
+    } catch (const std::exception &error) {
+        fail(error.what());
+    }
+}
+
+// Errors that mean the text stopped before the document was complete.
+bool endsEarly(XML_Error code)
+{
+    return code == XML_ERROR_UNCLOSED_TOKEN || code == XML_ERROR_NO_ELEMENTS ||
+           code == XML_ERROR_PARTIAL_CHAR || code == XML_ERROR_UNCLOSED_CDATA_SECTION;
 }
 
 } // namespace
 
 std::optional<SourceFood> parseFoodXml(std::string_view xml)
 {
-    std::optional<SourceFood> food;
-    std::size_t at = 0;
-    while ((at = xml.find('<', at)) != std::string_view::npos) {
-        if (xml.substr(at, 2) == "</" || xml.substr(at, 2) == "<?" || xml.substr(at, 2) == "<!") {
-            const auto end = xml.substr(at, 4) == "<!--" ? xml.find("-->", at) : xml.find('>', at);
-            if (end == std::string_view::npos)
-                throw std::runtime_error("unterminated markup");
-            at = end + 1;
-            continue;
-        }
-        const Tag tag = readTag(xml, at);
-        if (tag.name == "food") {
-            if (food)
-                throw std::runtime_error("more than one food in one file");
-            food.emplace();
-            food->id = foodId(tag);
-            food->name = required(tag, "name");
-            if (food->name.empty())
-                throw std::runtime_error("food " + std::to_string(food->id) + " has no name");
-        } else if (tag.name == "measure" && food) {
-            SourceMeasure measure{number(tag, "amount"), required(tag, "name"), number(tag, "grams")};
-            if (measure.grams < 0 || measure.amount <= 0)
-                throw std::runtime_error("measure \"" + measure.name + "\" has no positive weight");
-            food->measures.push_back(std::move(measure));
-        } else if (tag.name == "nutrient" && food) {
-            food->nutrients.push_back({required(tag, "name"), number(tag, "amount")});
-        }
+    FoodReader reader;
+    const std::unique_ptr<XML_ParserStruct, void (*)(XML_Parser)> parser(XML_ParserCreate(nullptr),
+                                                                         XML_ParserFree);
+    if (!parser)
+        throw std::runtime_error("out of memory for the XML parser");
+    reader.parser = parser.get();
+    XML_SetUserData(parser.get(), &reader);
+    XML_SetStartElementHandler(parser.get(), [](void *data, const XML_Char *name, Attributes attributes) {
+        static_cast<FoodReader *>(data)->startElement(name, attributes);
+    });
+    // Food data declares no entities; a declaration is how an entity expansion bomb starts.
+    XML_SetEntityDeclHandler(parser.get(), [](void *data, const XML_Char *name, int, const XML_Char *, int,
+                                              const XML_Char *, const XML_Char *, const XML_Char *,
+                                              const XML_Char *) {
+        static_cast<FoodReader *>(data)->fail("declares the entity \"" + std::string(name) +
+                                              "\"; food data uses no entity declarations");
+    });
+
+    if (xml.size() > static_cast<std::size_t>(std::numeric_limits<int>::max()))
+        throw std::runtime_error("too large for the XML parser");
+    const auto status = XML_Parse(parser.get(), xml.data(), static_cast<int>(xml.size()), XML_TRUE);
+    if (!reader.problem.empty())
+        throw std::runtime_error(reader.problem);
+    if (status != XML_STATUS_OK) {
+        const XML_Error code = XML_GetErrorCode(parser.get());
+        const std::string where = "line " + std::to_string(XML_GetCurrentLineNumber(parser.get())) +
+                                  ", column " + std::to_string(XML_GetCurrentColumnNumber(parser.get()) + 1);
+        if (xml.find_first_not_of(" \t\r\n") == std::string_view::npos)
+            throw std::runtime_error("unterminated XML: the file is empty");
+        if (endsEarly(code))
+            throw std::runtime_error("unterminated XML: the file ends early (truncated?) at " + where);
+        throw std::runtime_error("malformed XML at " + where + ": " + XML_ErrorString(code));
     }
-    return food;
+    return std::move(reader.food);
 }
 
 } // namespace foodservice

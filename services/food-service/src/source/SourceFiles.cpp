@@ -12,9 +12,21 @@
 namespace foodservice {
 namespace {
 
+// A food file is a few kilobytes; anything near this size is not food data.
+constexpr std::uint64_t largestFoodFile = 16U * 1024U * 1024U;
+
 bool isXmlName(std::string_view name)
 {
     return name.ends_with(".xml");
+}
+
+void checkSize(const std::string &name, std::uint64_t size)
+{
+    constexpr std::uint64_t megabyte = 1024U * 1024U;
+    if (size > largestFoodFile)
+        throw std::runtime_error(name + " is " + std::to_string((size + megabyte - 1) / megabyte) +
+                                 " MB, too large for a food file (at most " +
+                                 std::to_string(largestFoodFile / megabyte) + " MB)");
 }
 
 void visitFolder(const std::filesystem::path &folder,
@@ -27,6 +39,7 @@ void visitFolder(const std::filesystem::path &folder,
     }
     std::sort(files.begin(), files.end());
     for (const auto &file : files) {
+        checkSize(file.string(), std::filesystem::file_size(file));
         std::ifstream in(file, std::ios::binary);
         if (!in)
             throw std::runtime_error("cannot read " + file.string());
@@ -46,8 +59,11 @@ void visitArchive(const std::string &path,
             members.push_back(&entry);
     }
     std::sort(members.begin(), members.end(), [](const auto *a, const auto *b) { return a->name < b->name; });
-    for (const auto *entry : members)
-        visit(entry->name, archive.read(*entry));
+    for (const auto *entry : members) {
+        const std::string name = path + ": " + entry->name;
+        checkSize(name, entry->size);
+        visit(name, archive.read(*entry));
+    }
 }
 
 } // namespace

@@ -4,9 +4,11 @@
 #include <string>
 #include <vector>
 
+struct zip;
+
 namespace foodservice {
 
-// Reads the members of a zip (or jar) file: stored or deflated, no zip64, no encryption.
+// The members of a zip (or jar) file, read through libzip.
 // Throws std::runtime_error naming the archive when it is damaged.
 class ZipArchive
 {
@@ -14,20 +16,22 @@ public:
     struct Entry
     {
         std::string name;
-        std::uint16_t method = 0;
-        std::uint32_t compressedSize = 0;
-        std::uint32_t size = 0;
-        std::uint32_t localHeaderOffset = 0;
+        std::uint64_t index = 0;
+        std::uint64_t size = 0;
     };
 
     explicit ZipArchive(const std::string &path);
+    ~ZipArchive();
+    ZipArchive(const ZipArchive &) = delete;
+    ZipArchive &operator=(const ZipArchive &) = delete;
 
     [[nodiscard]] const std::vector<Entry> &entries() const { return m_entries; }
+    // The member's bytes, checked against its size and checksum.
     [[nodiscard]] std::string read(const Entry &entry) const;
 
 private:
     std::string m_path;
-    std::string m_bytes;
+    struct zip *m_archive = nullptr;
     std::vector<Entry> m_entries;
 };
 

@@ -1,75 +1,59 @@
 #include "text/FoldedText.h"
 
-#include <array>
-#include <cctype>
+#include <stdexcept>
+#include <unicode/normalizer2.h>
+#include <unicode/uchar.h>
+#include <unicode/unistr.h>
 
 namespace foodservice {
 namespace {
 
-// Folding of the two-byte UTF-8 Latin-1 supplement letters (U+00C0 to U+00FF).
-constexpr std::array<const char *, 64> latin1Folds = {
-    "a", "a", "a", "a", "a", "a", "ae", "c", "e", "e", "e", "e", "i", "i", "i",  "i",
-    "d", "n", "o", "o", "o", "o", "o",  " ", "o", "u", "u", "u", "u", "y", "th", "ss",
-    "a", "a", "a", "a", "a", "a", "ae", "c", "e", "e", "e", "e", "i", "i", "i",  "i",
-    "d", "n", "o", "o", "o", "o", "o",  " ", "o", "u", "u", "u", "u", "y", "th", "y"};
-
-void appendSpace(std::string &out)
+bool isApostrophe(UChar32 c)
 {
-    if (!out.empty() && out.back() != ' ')
-        out += ' ';
+    return c == u'\'' || c == u'\u2019';
 }
 
-bool isApostrophe(std::string_view text, std::size_t i, std::size_t &length)
+const icu::Normalizer2 &compatibilityDecomposition()
 {
-    if (text[i] == '\'') {
-        length = 1;
-        return true;
-    }
-    // U+2019 right single quotation mark
-    if (text.substr(i, 3) == "\xE2\x80\x99") {
-        length = 3;
-        return true;
-    }
-    return false;
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::Normalizer2 *normalizer = icu::Normalizer2::getNFKDInstance(status);
+    if (U_FAILURE(status) || normalizer == nullptr)
+        throw std::runtime_error(std::string("ICU normalization data missing: ") + u_errorName(status));
+    return *normalizer;
 }
 
 } // namespace
 
 std::string foldText(std::string_view text)
 {
-    std::string out;
-    out.reserve(text.size());
-    for (std::size_t i = 0; i < text.size();) {
-        const auto byte = static_cast<unsigned char>(text[i]);
-        std::size_t apostropheLength = 0;
-        if (std::isalnum(byte) != 0 && byte < 0x80) {
-            out += static_cast<char>(std::tolower(byte));
-            ++i;
-        } else if (isApostrophe(text, i, apostropheLength)) {
-            i += apostropheLength;
-        } else if ((byte == 0xC3) && i + 1 < text.size()) {
-            const auto next = static_cast<unsigned char>(text[i + 1]);
-            if (next >= 0x80 && next <= 0xBF) {
-                const std::string_view fold = latin1Folds[next - 0x80U];
-                if (fold == " ")
-                    appendSpace(out);
-                else
-                    out += fold;
-                i += 2;
-            } else {
-                appendSpace(out);
-                ++i;
-            }
-        } else if (byte == 0xC5 && i + 1 < text.size() && (text[i + 1] == '\x92' || text[i + 1] == '\x93')) {
-            out += "oe";
-            i += 2;
-        } else {
-            appendSpace(out);
-            ++i;
+    static const icu::Normalizer2 &decomposition = compatibilityDecomposition();
+    auto unicode =
+        icu::UnicodeString::fromUTF8(icu::StringPiece(text.data(), static_cast<int32_t>(text.size())));
+    unicode.foldCase();
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::UnicodeString decomposed = decomposition.normalize(unicode, status);
+    if (U_FAILURE(status))
+        throw std::runtime_error(std::string("cannot normalize text: ") + u_errorName(status));
+
+    icu::UnicodeString folded;
+    bool spaced = true;
+    for (int32_t i = 0; i < decomposed.length(); i = decomposed.moveIndex32(i, 1)) {
+        const UChar32 c = decomposed.char32At(i);
+        // Marks are the accents the decomposition split off; apostrophes join their word.
+        if (u_charType(c) == U_NON_SPACING_MARK || isApostrophe(c))
+            continue;
+        if (u_isalnum(c)) {
+            folded.append(c);
+            spaced = false;
+        } else if (!spaced) {
+            folded.append(u' ');
+            spaced = true;
         }
     }
-    if (!out.empty() && out.back() == ' ')
-        out.pop_back();
+    if (spaced && !folded.isEmpty())
+        folded.truncate(folded.length() - 1);
+    std::string out;
+    folded.toUTF8String(out);
     return out;
 }
 

@@ -6,8 +6,9 @@
 
 namespace foodservice {
 
-// Folds text for matching: lower case, Latin accents removed, apostrophes dropped
-// ("WENDY'S" reads "wendys"), every other non-alphanumeric byte becomes one space.
+// Folds text for matching: case folded and compatibility decomposed (ICU), accents removed,
+// apostrophes dropped ("WENDY'S" reads "wendys"), every run of other characters that are
+// not letters or digits one space.
 [[nodiscard]] std::string foldText(std::string_view text);
 
 // Splits folded text into its words.

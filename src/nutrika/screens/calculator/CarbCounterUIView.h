@@ -1,11 +1,13 @@
 #pragma once
 
+#include "CalculatorLinesModel.h"
 #include "DiaryEntry.h"
 #include "FoodItem.h"
 #include "Preview.h"
 
 #include <QList>
 #include <QObject>
+#include <QTimer>
 #include <QVariant>
 #include <QtQmlIntegration>
 #include <functional>
@@ -20,8 +22,8 @@ class CarbCounterUIView : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
-    /// The session's lines (DiaryEntry objects), in display order.
-    Q_PROPERTY(QList<QObject *> lines READ lines NOTIFY linesChanged)
+    /// The session's lines, in display order, each with its title and amount.
+    Q_PROPERTY(nutrika::CalculatorLinesModel *lines READ lines CONSTANT)
     Q_PROPERTY(QString totalText READ totalText NOTIFY totalChanged)
     /// "Total Carbohydrates".
     Q_PROPERTY(QString counterHeader READ counterHeader CONSTANT)
@@ -43,19 +45,11 @@ public:
     explicit CarbCounterUIView(QObject *parent = nullptr);
     explicit CarbCounterUIView(std::function<void()> onDismissCallback, QObject *parent = nullptr);
 
-    /// "12 g", "12.5 g", "0 g": the shortest decimal form without ".0", then " g".
-    [[nodiscard]] Q_INVOKABLE static QString amountText(double amount);
-
-    [[nodiscard]] QList<QObject *> lines() const;
+    [[nodiscard]] CalculatorLinesModel *lines() const { return m_lines; }
     [[nodiscard]] double calculateTotal() const;
-    [[nodiscard]] QString totalText() const { return amountText(calculateTotal()); }
+    [[nodiscard]] QString totalText() const;
     [[nodiscard]] QString counterHeader() const;
 
-    /// The line's food description or meal name; "" when the line lacks its record.
-    [[nodiscard]] Q_INVOKABLE QString lineTitle(int index) const;
-    [[nodiscard]] Q_INVOKABLE bool lineIsFood(int index) const;
-    /// The line's amount, or "" when the line lacks what its amount needs.
-    [[nodiscard]] Q_INVOKABLE QString lineAmount(int index) const;
     /// The line at `index`, for the screen that edits it.
     [[nodiscard]] Q_INVOKABLE nutrika::DiaryEntry *line(int index) const;
 
@@ -83,7 +77,6 @@ public:
     void setPreview(Preview::Value preview);
 
 signals:
-    void linesChanged();
     void totalChanged();
     void accompanimentItemChanged();
     void accompanimentListItemsChanged();
@@ -95,16 +88,14 @@ signals:
     void dismissPresentation();
 
 private:
-    void watchLines();
-    [[nodiscard]] DiaryEntryPtr lineAt(int index) const;
-
     std::function<void()> m_onDismissCallback;
+    CalculatorLinesModel *m_lines;
     AccompanimentRequest m_request;
     std::optional<FoodItem> m_accompanimentItem;
     QList<FoodItem> m_accompanimentListItems;
     bool m_showAccompanimentList = false;
     Preview::Value m_preview = Preview::NotPreview;
-    QList<QMetaObject::Connection> m_lineConnections;
+    QTimer *m_showTimer;
 };
 
 } // namespace nutrika

@@ -80,7 +80,7 @@ FocusScope {
             active = true
         }
         navigation: screen.navigation
-        destination: "CreateRecipeUIView"
+        destination: Destinations.CreateRecipe
         onDismissed: active = false
     }
 }

@@ -4,11 +4,11 @@
 #include "Diagnostics.h"
 #include "EnvironmentVariables.h"
 #include "ExampleData.h"
+#include "Formatting.h"
 #include "Totals.h"
 
 #include <QJsonDocument>
 #include <QPointer>
-#include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -26,40 +26,15 @@ CarbCounterUIView::CarbCounterUIView(QObject *parent)
 CarbCounterUIView::CarbCounterUIView(std::function<void()> onDismissCallback, QObject *parent)
     : QObject(parent)
     , m_onDismissCallback(std::move(onDismissCallback))
+    , m_lines(new CalculatorLinesModel(EnvironmentVariables::shared(), this))
     , m_request(&requestAccompanyingFoods)
+    , m_showTimer(new QTimer(this))
 {
-    EnvironmentVariables *env = EnvironmentVariables::shared();
-    connect(env, &EnvironmentVariables::trackedNutrientListItemsChanged, this, [this] {
-        watchLines();
-        emit linesChanged();
-        emit totalChanged();
-    });
-    watchLines();
-}
-
-QString CarbCounterUIView::amountText(double amount)
-{
-    QString text = QString::number(amount, 'g', QLocale::FloatingPointShortest);
-    const bool finite = qIsFinite(amount);
-    if (finite && !text.contains(u'.') && !text.contains(u'e'))
-        text += u".0"_s;
-    // Drop each ".0" that ends the number part; a ".0" followed by more digits is a real digit and stays.
-    for (qsizetype at = text.indexOf(u".0"_s); at >= 0; at = text.indexOf(u".0"_s, at)) {
-        const qsizetype after = at + 2;
-        if (after < text.size() && text.at(after).isDigit())
-            at = after;
-        else
-            text.remove(at, 2);
-    }
-    return text + u" g"_s;
-}
-
-QList<QObject *> CarbCounterUIView::lines() const
-{
-    QList<QObject *> result;
-    for (const DiaryEntryPtr &entry : EnvironmentVariables::shared()->TrackedNutrientListItems())
-        result.append(entry.data());
-    return result;
+    connect(m_lines, &CalculatorLinesModel::totalChanged, this, &CarbCounterUIView::totalChanged);
+    m_showTimer->setSingleShot(true);
+    m_showTimer->setTimerType(Qt::PreciseTimer);
+    m_showTimer->setInterval(accompanimentDelayMs);
+    connect(m_showTimer, &QTimer::timeout, this, [this] { setShowAccompanimentList(true); });
 }
 
 double CarbCounterUIView::calculateTotal() const
@@ -67,46 +42,19 @@ double CarbCounterUIView::calculateTotal() const
     return nutrika::calculateTotal(EnvironmentVariables::shared()->TrackedNutrientListItems());
 }
 
+QString CarbCounterUIView::totalText() const
+{
+    return amountText(calculateTotal());
+}
+
 QString CarbCounterUIView::counterHeader() const
 {
     return u"Total "_s + COUNTER_TYPE;
 }
 
-DiaryEntryPtr CarbCounterUIView::lineAt(int index) const
-{
-    const QList<DiaryEntryPtr> &items = EnvironmentVariables::shared()->TrackedNutrientListItems();
-    return index >= 0 && index < items.size() ? items.at(index) : DiaryEntryPtr();
-}
-
-QString CarbCounterUIView::lineTitle(int index) const
-{
-    const DiaryEntryPtr entry = lineAt(index);
-    if (!entry)
-        return {};
-    if (entry->type() == EntryType::Food)
-        return entry->foodItem() ? entry->foodItem()->description : QString();
-    return entry->recipeItem() ? entry->recipeItem()->name : QString();
-}
-
-bool CarbCounterUIView::lineIsFood(int index) const
-{
-    const DiaryEntryPtr entry = lineAt(index);
-    return entry && entry->type() == EntryType::Food;
-}
-
-QString CarbCounterUIView::lineAmount(int index) const
-{
-    const DiaryEntryPtr entry = lineAt(index);
-    if (!entry)
-        return {};
-    const bool complete = entry->type() == EntryType::Food ? entry->foodItem() && entry->hasTrackedNutrient()
-                                                            : entry->recipeItem().has_value();
-    return complete ? amountText(entry->totalTrackedNutrient()) : QString();
-}
-
 DiaryEntry *CarbCounterUIView::line(int index) const
 {
-    return lineAt(index).data();
+    return m_lines->line(index).data();
 }
 
 void CarbCounterUIView::remove(int index)
@@ -152,9 +100,9 @@ void CarbCounterUIView::getAccompanimentData()
             return;
         self->m_accompanimentListItems.append(*foods);
         emit self->accompanimentListItemsChanged();
-        if (!self->m_accompanimentListItems.isEmpty() && !self->m_showAccompanimentList) {
-            QTimer::singleShot(accompanimentDelayMs, Qt::PreciseTimer, self, [self] { self->setShowAccompanimentList(true); });
-        }
+        // A second reply before the pop-over shows keeps the first reply's schedule.
+        if (!self->m_accompanimentListItems.isEmpty() && !self->m_showAccompanimentList && !self->m_showTimer->isActive())
+            self->m_showTimer->start();
     });
 }
 
@@ -200,15 +148,6 @@ void CarbCounterUIView::setPreview(Preview::Value preview)
 {
     m_preview = preview;
     emit previewChanged();
-}
-
-void CarbCounterUIView::watchLines()
-{
-    for (const QMetaObject::Connection &c : std::as_const(m_lineConnections))
-        disconnect(c);
-    m_lineConnections.clear();
-    for (const DiaryEntryPtr &entry : EnvironmentVariables::shared()->TrackedNutrientListItems())
-        m_lineConnections.append(connect(entry.data(), &DiaryEntry::totalChanged, this, &CarbCounterUIView::totalChanged));
 }
 
 } // namespace nutrika

@@ -142,12 +142,19 @@ FocusScope {
         }
     }
 
-    // Read-only: the portion flow closes it by moving portionActive elsewhere.
+    // Read-only: the portion flow closes it by moving portionActive elsewhere. No row is chosen while
+    // the flag is -1; a row tapped again after going back writes the flag anew and opens it again.
     NavigationLink {
+        id: portionLink
         navigation: screen.navigation
-        active: EnvironmentVariables.portionActive === screen.uiView.selectedFood.id
+        active: EnvironmentVariables.portionActive !== -1
+                && EnvironmentVariables.portionActive === screen.uiView.selectedFood.id
         writesBack: false
-        destination: "SelectPortionUIView"
-        properties: ({ foodItem: screen.uiView.selectedFood })
+        destination: Destinations.SelectPortion
+        properties: ({ selectedFood: screen.uiView.selectedFood })
+    }
+    Connections {
+        target: EnvironmentVariables
+        function onPortionActiveChanged() { portionLink.rearm() }
     }
 }

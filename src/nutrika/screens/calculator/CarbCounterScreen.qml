@@ -1,0 +1,153 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import QtQuick.Layouts
+import Nutrika
+
+// The look of CarbCounterUIView: the calculator's lines, the total, "Search more foods" and the
+// suggestions shown over it after a food is added.
+FocusScope {
+    id: screen
+
+    property CarbCounterUIView uiView: CarbCounterUIView {}
+    required property StackView navigation
+    property var presentationMode: null
+
+    StackView.onActivated: uiView.appear()
+
+    ViewContainer {
+        anchors.fill: parent
+        titleText: qsTr("Carb Calculator")
+        backButton: false
+        presentationMode: screen.presentationMode
+
+        CalculatorColumnHeader {
+            id: columnHeader
+            width: parent.width
+            counterHeader: screen.uiView.counterHeader
+        }
+
+        // The suggestions hang from this point under the header.
+        Item {
+            id: popoverAnchor
+            objectName: "popoverAnchor"
+            visible: screen.uiView.showAccompanimentList
+            y: columnHeader.height
+            width: parent.width
+        }
+
+        ListView {
+            id: lineList
+            objectName: "lineList"
+            y: columnHeader.height
+            width: parent.width
+            height: parent.height - columnHeader.height - searchMore.height - 20
+            clip: true
+            model: screen.uiView.lines
+            boundsBehavior: Flickable.StopAtBounds
+            Accessible.role: Accessible.List
+            Accessible.name: qsTr("Calculator")
+
+            delegate: CalculatorLine {
+                required property int index
+                required title
+                required isFood
+                required amount
+                width: lineList.width
+                onOpened: lineLink.open(index, isFood)
+                onRemoved: screen.uiView.remove(index)
+            }
+
+            footer: CalculatorTotalRow {
+                width: lineList.width
+                amount: screen.uiView.totalText
+            }
+        }
+
+        ActionButton {
+            id: searchMore
+            objectName: "searchMoreButton"
+            anchors.bottom: parent.bottom
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.margins: 10
+            implicitHeight: 60
+            text: qsTr("Search more foods")
+            bold: true
+            pixelSize: Look.titleSize
+            textColor: "white"
+            fillColor: Look.titleText
+            radius: 25
+            onClicked: EnvironmentVariables.searchActive = true
+        }
+    }
+
+    Popup {
+        id: suggestions
+        objectName: "suggestions"
+        parent: popoverAnchor
+        x: 10
+        width: parent.width - 20
+        height: Math.min(520, screen.height - columnHeader.height - 40)
+        modal: true
+        focus: true
+        padding: 0
+        visible: screen.uiView.showAccompanimentList
+        onAboutToShow: content.active = true
+        // The list is built for each showing and let go after the choice that closed it has finished.
+        onClosed: {
+            // Closed by Escape or a tap outside; a close that follows the flag leaves it as it is.
+            if (screen.uiView.showAccompanimentList)
+                screen.uiView.showAccompanimentList = false
+            Qt.callLater(() => content.active = false)
+        }
+        background: Rectangle { radius: 14; color: "white"; border.color: Look.lightGray }
+
+        contentItem: Loader {
+            id: content
+            active: false
+            sourceComponent: FoodAccompanimentsScreen {
+                uiView: FoodAccompanimentsUIView {
+                    // A copy: suggestions that arrive while the list shows wait for the next time.
+                    Component.onCompleted: items = screen.uiView.accompanimentListItems
+                    onIsPresentedChanged: screen.uiView.showAccompanimentList = isPresented
+                    onSelect: item => screen.uiView.selectAccompanimentValue(item)
+                }
+            }
+        }
+    }
+
+    NavigationLink {
+        navigation: screen.navigation
+        active: EnvironmentVariables.searchActive
+        destination: Destinations.SearchContainer
+        onDismissed: EnvironmentVariables.searchActive = false
+    }
+
+    // A tapped line: its preview for a food, the meal editor for a meal.
+    NavigationLink {
+        id: lineLink
+        function open(index, food) {
+            destination = food ? Destinations.AddToCalcPreview : Destinations.CreateRecipe
+            properties = food ? { diaryEntry: screen.uiView.line(index) }
+                              : { diaryEntry: screen.uiView.line(index), opener: "calculator" }
+            active = true
+        }
+        navigation: screen.navigation
+        onDismissed: active = false
+    }
+
+    // The chosen suggestion's portions. Read-only: going back does not clear the flag, and choosing a
+    // suggestion again writes it anew.
+    NavigationLink {
+        id: accompanimentLink
+        navigation: screen.navigation
+        active: screen.uiView.hasAccompanimentItem && EnvironmentVariables.accompanimentsActive
+        writesBack: false
+        destination: Destinations.SelectPortion
+        properties: ({ selectedFood: screen.uiView.accompanimentItem })
+    }
+    Connections {
+        target: EnvironmentVariables
+        function onAccompanimentsActiveChanged() { accompanimentLink.rearm() }
+    }
+}

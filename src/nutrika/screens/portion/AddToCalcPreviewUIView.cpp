@@ -1,0 +1,187 @@
+#include "AddToCalcPreviewUIView.h"
+
+#include "EnvironmentVariables.h"
+#include "ExampleData.h"
+#include "Formatting.h"
+#include "NutrientsRequest.h"
+
+#include <QPointer>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace nutrika {
+
+AddToCalcPreviewUIView::AddToCalcPreviewUIView(QObject *parent)
+    : QObject(parent)
+{
+    connect(EnvironmentVariables::shared(), &EnvironmentVariables::editRecipeActiveChanged, this,
+            &AddToCalcPreviewUIView::addButtonTextChanged);
+}
+
+void AddToCalcPreviewUIView::startAdding(const FoodItem &food, const PortionItem &portion)
+{
+    setEntry(DiaryEntryPtr::create(123, portion, food), AddNew);
+    setQuantity(u"1"_s);
+}
+
+void AddToCalcPreviewUIView::startEditing(DiaryEntry *entry)
+{
+    // The line is the calculator's own: find its shared handle there.
+    for (const DiaryEntryPtr &line : EnvironmentVariables::shared()->TrackedNutrientListItems()) {
+        if (line.data() == entry)
+            return startEditing(line);
+    }
+    qWarning("AddToCalcPreviewUIView: the line to edit is not on the calculator");
+}
+
+void AddToCalcPreviewUIView::startEditing(const DiaryEntryPtr &entry)
+{
+    setEntry(entry, Edit);
+    setQuantity(QString::number(entry->quantity()));
+}
+
+void AddToCalcPreviewUIView::setEntry(DiaryEntryPtr entry, ViewMode mode)
+{
+    for (const QMetaObject::Connection &watch : std::as_const(m_entryWatches))
+        disconnect(watch);
+    m_diaryEntry = std::move(entry);
+    m_mode = mode;
+    m_entryWatches = {
+        connect(m_diaryEntry.data(), &DiaryEntry::trackedNutrientChanged, this, &AddToCalcPreviewUIView::carbohydratesChanged),
+        connect(m_diaryEntry.data(), &DiaryEntry::quantityChanged, this, &AddToCalcPreviewUIView::carbohydratesChanged),
+        connect(m_diaryEntry.data(), &DiaryEntry::portionChanged, this, &AddToCalcPreviewUIView::portionChanged),
+    };
+    emit entryChanged();
+    emit portionChanged();
+    emit carbohydratesChanged();
+}
+
+void AddToCalcPreviewUIView::appear()
+{
+    if (m_preview == Preview::NotPreview) {
+        fetchNutrients();
+        return;
+    }
+    if (m_preview == Preview::Edit)
+        startEditing(example::exampleTrackedNutrient1());
+    else
+        startAdding(example::exampleSelectedFood(), example::examplePortionItem());
+    if (m_preview == Preview::AddNew)
+        m_diaryEntry->setTrackedNutrient(example::exampleNutrientCarb());
+}
+
+void AddToCalcPreviewUIView::fetchNutrients()
+{
+    if (!m_diaryEntry || !m_diaryEntry->foodItem() || !m_diaryEntry->portion())
+        return;
+    m_diaryEntry->setNutrients(QList<NutrientValue>());
+    ++m_pendingRequests;
+    emit isLoadingChanged();
+    const DiaryEntryPtr entry = m_diaryEntry;
+    // The answer fills the line even when this screen has gone: the line may already be on a list.
+    requestNutrients(*entry->foodItem(), *entry->portion(), entry.data(),
+                     [entry, self = QPointer(this)](const std::optional<PortionNutrients> &answer) {
+                         if (answer) {
+                             entry->setNutrients(answer->nutrients);
+                             entry->setTrackedNutrient(answer->trackedNutrient);
+                         }
+                         if (self) {
+                             self->m_nutrientsFailed = !answer;
+                             --self->m_pendingRequests;
+                             emit self->isLoadingChanged();
+                         }
+                     });
+}
+
+void AddToCalcPreviewUIView::add()
+{
+    if (!m_diaryEntry)
+        return;
+    EnvironmentVariables *env = EnvironmentVariables::shared();
+    if (env->editRecipeActive()) {
+        env->setCurrentRecipeItems(QList(env->CurrentRecipeItems()) << m_diaryEntry);
+        env->setRecipeSearchActive(false);
+        return;
+    }
+    env->setTrackedNutrientListItems(QList(env->TrackedNutrientListItems()) << m_diaryEntry);
+    env->setSearchActive(false);
+    env->setAccompanimentsActive(false);
+    env->setFoodItemForAccompaniments(m_diaryEntry->foodItem());
+}
+
+void AddToCalcPreviewUIView::searchMoreFoods()
+{
+    EnvironmentVariables::shared()->setPortionActive(-1);
+}
+
+void AddToCalcPreviewUIView::update()
+{
+    EnvironmentVariables *env = EnvironmentVariables::shared();
+    QList<DiaryEntryPtr> lines = env->TrackedNutrientListItems();
+    const qsizetype at = lines.indexOf(m_diaryEntry);
+    if (at >= 0) {
+        lines[at] = m_diaryEntry;
+        env->setTrackedNutrientListItems(lines);
+    }
+    emit closeRequested();
+}
+
+void AddToCalcPreviewUIView::setLineQuantity(qint64 quantity)
+{
+    setQuantity(QString::number(quantity));
+    if (m_diaryEntry)
+        m_diaryEntry->setQuantity(quantity);
+}
+
+void AddToCalcPreviewUIView::replacePortion(const PortionItem &portion)
+{
+    if (m_diaryEntry)
+        m_diaryEntry->setPortion(portion);
+}
+
+void AddToCalcPreviewUIView::setPreview(Preview::Value preview)
+{
+    m_preview = preview;
+    emit previewChanged();
+}
+
+void AddToCalcPreviewUIView::setQuantity(const QString &quantity)
+{
+    if (quantity == m_quantity)
+        return;
+    m_quantity = quantity;
+    emit quantityChanged();
+    emit carbohydratesChanged();
+}
+
+FoodItem AddToCalcPreviewUIView::foodItem() const
+{
+    return m_diaryEntry && m_diaryEntry->foodItem() ? *m_diaryEntry->foodItem() : FoodItem();
+}
+
+QString AddToCalcPreviewUIView::portionText() const
+{
+    if (!m_diaryEntry || !m_diaryEntry->portion())
+        return {};
+    return m_diaryEntry->portion()->sizeText();
+}
+
+QString AddToCalcPreviewUIView::carbohydratesText() const
+{
+    if (!m_diaryEntry || !m_diaryEntry->trackedNutrient() || m_diaryEntry->quantity() < 1)
+        return {};
+    const NutrientValue &tracked = *m_diaryEntry->trackedNutrient();
+    bool number = false;
+    double q = m_quantity.toDouble(&number);
+    if (!number)
+        q = 0;
+    const QString value = shortestDecimalText(q * tracked.value);
+    return withoutPointZero(formatValueWithUnits(value, tracked.unit, int(tracked.dp)));
+}
+
+QString AddToCalcPreviewUIView::addButtonText() const
+{
+    return EnvironmentVariables::shared()->editRecipeActive() ? u"Add to meal"_s : u"Add to calculator"_s;
+}
+
+} // namespace nutrika

@@ -1,0 +1,72 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import QtQuick.Templates as T
+import QtQuick.Layouts
+import Nutrika
+
+// The enlarged picture of one portion, over the whole screen: its size as the title, a close cross, and
+// the full-size picture (a spinner until it arrives). Each opening asks for the picture anew.
+Popup {
+    id: sheet
+    objectName: "fullImageSheet"
+
+    required property var portion
+    property bool loadsPictures: true
+    readonly property bool showFullImage: opened
+    readonly property alias picture: picture
+
+    parent: T.Overlay.overlay
+    x: 0
+    y: 0
+    width: parent ? parent.width : 0
+    height: parent ? parent.height : 0
+    modal: true
+    focus: true
+    padding: 16
+    background: Rectangle { color: "white" }
+    onAboutToShow: if (loadsPictures) picture.load()
+
+    ColumnLayout {
+        anchors.fill: parent
+        Accessible.role: Accessible.Dialog
+        Accessible.name: title.text
+
+        RowLayout {
+            Layout.fillWidth: true
+            Text {
+                id: title
+                Layout.fillWidth: true
+                text: sheet.portion.sizeText()
+                font.pixelSize: Look.titleSize
+                font.bold: true
+                color: Look.titleText
+            }
+            ActionButton {
+                objectName: "closeImageButton"
+                implicitWidth: 32
+                implicitHeight: 32
+                symbol: "xmark"
+                text: qsTr("Close picture")
+                pixelSize: 20
+                // Grey, dark enough to be seen against white.
+                textColor: "#6e6e6e"
+                onClicked: sheet.close()
+            }
+        }
+        Item {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            PortionPicture {
+                id: picture
+                objectName: "fullImage"
+                anchors.fill: parent
+                portionId: sheet.portion.id
+                fullSize: true
+            }
+            Spinner {
+                anchors.centerIn: parent
+                visible: !picture.hasImage
+            }
+        }
+    }
+}
