@@ -233,6 +233,8 @@ void RelevanceTest::eatenFormAmongFirstPlainFoods_data()
         {"quinoa", "Quinoa, cooked"},
         {"couscous", "Couscous, cooked"},
         {"potato", "Potato, baked, flesh and skin, without salt"},
+        {"mashed potatoes", "Potatoes, mashed, home-prepared, whole milk added"},
+        {"tomato soup", "Soup, tomato, canned, prepared with equal volume water, commercial"},
         {"sweet potato", "Sweet potato, cooked, baked in skin, without salt"},
         {"french fries",
          "Potatoes, french fried, all types, salt added in processing, frozen, home-prepared, "
