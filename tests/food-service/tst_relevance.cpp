@@ -7,6 +7,7 @@
 #include <QJsonObject>
 #include <QtTest>
 
+#include <algorithm>
 #include <memory>
 
 class RelevanceTest : public QObject
@@ -21,9 +22,15 @@ private slots:
     void topResultsAllMatch();
     void plainFoodBeforeFoodsContainingIt_data();
     void plainFoodBeforeFoodsContainingIt();
+    void eatenFormAmongFirstPlainFoods_data();
+    void eatenFormAmongFirstPlainFoods();
+    void babyFoodOnlyWhenAsked_data();
+    void babyFoodOnlyWhenAsked();
 
 private:
     QStringList topDescriptions(const QString &search, int count = 200);
+    // The first foods of no brand.
+    QStringList topPlainDescriptions(const QString &search, int count);
 
     std::unique_ptr<FoodServiceProcess> m_service;
     std::unique_ptr<ServiceClient> m_client;
@@ -47,6 +54,20 @@ QStringList RelevanceTest::topDescriptions(const QString &search, int count)
     return descriptions;
 }
 
+QStringList RelevanceTest::topPlainDescriptions(const QString &search, int count)
+{
+    const auto reply =
+        m_client->get("/api/v1/healthcare//food?food_brand=&food_category=&offset=0&limit=100&search=" +
+                      QUrl::toPercentEncoding(search));
+    QStringList descriptions;
+    for (const auto &result : reply.json().object().value(QStringLiteral("results")).toArray()) {
+        const auto food = result.toObject();
+        if (food.value(QStringLiteral("food_brand")).toString().isEmpty() && descriptions.size() < count)
+            descriptions << food.value(QStringLiteral("description")).toString();
+    }
+    return descriptions;
+}
+
 void RelevanceTest::expectedFoodRanksHigh_data()
 {
     QTest::addColumn<QString>("search");
@@ -66,7 +87,7 @@ void RelevanceTest::expectedFoodRanksHigh_data()
     QTest::newRow("misspelt, missing r") << "stawberries"
                                          << "Strawberries, raw" << 1;
     QTest::newRow("misspelt pasta") << "spagetti"
-                                    << "Spaghetti, dry, enriched" << 3;
+                                    << "Spaghetti, cooked, enriched, without added salt" << 3;
     QTest::newRow("apple") << "apple"
                            << "Apples, raw, with skin" << 1;
     QTest::newRow("egg") << "egg"
@@ -86,7 +107,7 @@ void RelevanceTest::expectedFoodRanksHigh_data()
     QTest::newRow("jam") << "jam"
                          << "Jams and preserves" << 1;
     QTest::newRow("lentils") << "lentils"
-                             << "Lentils, raw" << 1;
+                             << "Lentils, mature seeds, cooked, boiled, without salt" << 1;
     QTest::newRow("cola") << "cola"
                           << "Carbonated beverage, cola, contains caffeine" << 3;
     QTest::newRow("brand product") << "cheerios"
@@ -174,6 +195,110 @@ void RelevanceTest::plainFoodBeforeFoodsContainingIt()
     const auto containingRank = found.indexOf(containing);
     QVERIFY2(containingRank < 0 || plainRank < containingRank,
              qPrintable(found.mid(0, 10).join(QStringLiteral(" | "))));
+}
+
+// Everyday searches: the food as it is eaten and weighed must be among the first three
+// plain foods, since a person picks from the top and doses from its carbohydrate.
+void RelevanceTest::eatenFormAmongFirstPlainFoods_data()
+{
+    QTest::addColumn<QString>("search");
+    QTest::addColumn<QString>("eaten");
+
+    const QList<std::pair<const char *, const char *>> rows = {
+        {"rice", "Rice, brown, long-grain, cooked"},
+        {"brown rice", "Rice, brown, long-grain, cooked"},
+        {"chicken", "Chicken, roasting, meat only, cooked, roasted"},
+        {"turkey", "Turkey, all classes, meat and skin, cooked, roasted"},
+        {"beef", "Beef, ground, unspecified fat content, cooked"},
+        {"pork", "Pork, fresh, ground, cooked"},
+        {"bacon", "Pork, cured, bacon, cooked, baked"},
+        {"tuna", "Fish, tuna, light, canned in water, drained solids"},
+        {"shrimp", "Crustaceans, shrimp, mixed species, cooked, moist heat"},
+        {"egg", "Egg, whole, cooked, scrambled"},
+        {"milk", "Milk, whole, 3.25% milkfat, with added vitamin D"},
+        {"skim milk", "Milk, nonfat, fluid, with added vitamin A and vitamin D (fat free or skim)"},
+        {"bread", "Bread, white, commercially prepared (includes soft bread crumbs)"},
+        {"pasta", "Pasta, homemade, made without egg, cooked"},
+        {"spaghetti", "Spaghetti, cooked, enriched, without added salt"},
+        {"macaroni", "Macaroni, cooked, enriched"},
+        {"noodles", "Noodles, egg, cooked, enriched"},
+        {"lentils", "Lentils, mature seeds, cooked, boiled, without salt"},
+        {"chickpeas", "Chickpeas (garbanzo beans, bengal gram), mature seeds, canned, drained solids"},
+        {"kidney beans", "Beans, kidney, red, mature seeds, cooked, boiled, without salt"},
+        {"black beans", "Beans, black, mature seeds, cooked, boiled, with salt"},
+        {"oatmeal", "Cereals, oats, instant, fortified, plain, prepared with water (boiling water added or "
+                    "microwaved)"},
+        {"porridge", "Cereals, oats, instant, fortified, plain, prepared with water (boiling water added or "
+                     "microwaved)"},
+        {"quinoa", "Quinoa, cooked"},
+        {"couscous", "Couscous, cooked"},
+        {"potato", "Potato, baked, flesh and skin, without salt"},
+        {"mashed potatoes", "Potatoes, mashed, home-prepared, whole milk added"},
+        {"tomato soup", "Soup, tomato, canned, prepared with equal volume water, commercial"},
+        {"sweet potato", "Sweet potato, cooked, baked in skin, without salt"},
+        {"french fries",
+         "Potatoes, french fried, all types, salt added in processing, frozen, home-prepared, "
+         "oven heated"},
+        {"carrot", "Carrots, raw"},
+        {"broccoli", "Broccoli, raw"},
+        {"corn", "Corn, sweet, yellow, raw"},
+        {"tomato", "Tomatoes, red, ripe, raw, year round average"},
+        {"green beans", "Beans, snap, green, raw"},
+        {"apple", "Apples, raw, with skin"},
+        {"banana", "Bananas, raw"},
+        {"grapes", "Grapes, red or green (European type, such as Thompson seedless), raw"},
+        {"strawberry", "Strawberries, raw"},
+        {"cherry", "Cherries, sweet, raw"},
+        {"peach", "Peaches, raw"},
+        {"avocado", "Avocados, raw, all commercial varieties"},
+        {"candy", "Candies, hard"},
+        {"chips", "Snacks, potato chips, plain, salted"},
+        {"soda", "Carbonated beverage, cola, contains caffeine"},
+        {"ketchup", "Catsup"},
+        {"donut", "Doughnuts, cake-type, plain (includes unsugared, old-fashioned)"},
+        {"coffee", "Coffee, instant, regular, prepared with water"},
+        {"tea", "Tea, black, brewed, prepared with tap water"},
+        {"butter", "Butter, salted"},
+        {"peanut butter", "Peanut butter, smooth, vitamin and mineral fortified"},
+        {"babyfood banana", "Babyfood, banana no tapioca, strained"},
+    };
+    for (const auto &[search, eaten] : rows)
+        QTest::newRow(search) << QString::fromUtf8(search) << QString::fromUtf8(eaten);
+}
+
+void RelevanceTest::eatenFormAmongFirstPlainFoods()
+{
+    QFETCH(QString, search);
+    QFETCH(QString, eaten);
+
+    const QStringList found = topPlainDescriptions(search, 3);
+    QVERIFY2(found.contains(eaten), qPrintable(found.join(QStringLiteral(" | "))));
+}
+
+void RelevanceTest::babyFoodOnlyWhenAsked_data()
+{
+    QTest::addColumn<QString>("search");
+    QTest::addColumn<bool>("asked");
+
+    QTest::newRow("applesauce") << "applesauce" << false;
+    QTest::newRow("carrots") << "carrots" << false;
+    QTest::newRow("oatmeal") << "oatmeal" << false;
+    QTest::newRow("baby carrots") << "baby carrots" << true;
+    QTest::newRow("babyfood applesauce") << "babyfood applesauce" << true;
+}
+
+void RelevanceTest::babyFoodOnlyWhenAsked()
+{
+    QFETCH(QString, search);
+    QFETCH(bool, asked);
+
+    const QStringList found = topDescriptions(search, 3);
+    QVERIFY(!found.isEmpty());
+    const auto isBabyFood = [](const QString &description) { return description.startsWith("Babyfood"); };
+    if (asked)
+        QVERIFY2(isBabyFood(found.first()), qPrintable(found.first()));
+    else
+        QVERIFY2(std::none_of(found.begin(), found.end(), isBabyFood), qPrintable(found.join(" | ")));
 }
 
 QTEST_GUILESS_MAIN(RelevanceTest)

@@ -47,6 +47,18 @@ Benchmark::Benchmark(int port, std::string caPath, std::string apiKey)
 {
 }
 
+BenchFigures Benchmark::firstRequestLatency(const std::vector<std::string> &targets, int expectedStatus) const
+{
+    LatencySample sample;
+    for (const auto &target : targets) {
+        const auto start = Clock::now();
+        BenchClient client(m_port, m_caPath, m_apiKey);
+        client.get(target, expectedStatus);
+        sample.add(std::chrono::duration<double, std::milli>(Clock::now() - start).count());
+    }
+    return {sample.percentile(0.5), sample.percentile(0.99), 0};
+}
+
 BenchFigures Benchmark::measure(const std::vector<std::string> &targets, int expectedStatus, int clients,
                                 double seconds) const
 {

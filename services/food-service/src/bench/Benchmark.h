@@ -22,6 +22,9 @@ public:
 
     [[nodiscard]] BenchFigures measure(const std::vector<std::string> &targets, int expectedStatus,
                                        int clients, double seconds) const;
+    // Latency only, each request on a new connection as a newly arrived user's would be.
+    [[nodiscard]] BenchFigures firstRequestLatency(const std::vector<std::string> &targets,
+                                                   int expectedStatus) const;
 
 private:
     int m_port;

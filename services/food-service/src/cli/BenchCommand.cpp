@@ -1,4 +1,5 @@
 #include "bench/Benchmark.h"
+#include "bench/HeldConnections.h"
 #include "bench/PictureBench.h"
 #include "cli/CommandLine.h"
 #include "cli/Commands.h"
@@ -12,11 +13,15 @@ namespace foodservice {
 namespace {
 
 constexpr int concurrentClients = 8;
+constexpr int idleConnections = 256;
+constexpr int slowConnections = 64;
 constexpr double goalP50 = 2.0;
-constexpr double goalFloorRatio = 3.0;
-constexpr double goalPerSecond = 2000;
+// Requests per second of the 404 over searches per second.
+constexpr double goalThroughputRatio = 2.5;
+constexpr double goalHeldP99 = 100.0;
 
-// Typical searches as people type them, misspellings included.
+// Typical searches as people type them, misspellings included: a mix, so that no cache
+// of one reply makes the figure.
 const std::vector<std::string> typicalSearches = {
     "banana",       "milk",       "bread",        "chicken", "rice",        "apple",         "egg",
     "cheese",       "pasta",      "orange juice", "coffee",  "tea",         "yogurt",        "butter",
@@ -56,16 +61,25 @@ int runBench(const CommandLine &options)
     try {
         const auto search = benchmark.measure(searches, 200, concurrentClients, seconds);
         const auto cheapest = benchmark.measure(floor, 404, concurrentClients, seconds);
-        std::printf("%zu typical searches, %d concurrent clients for throughput, HTTPS keep-alive\n",
+        const auto alone = benchmark.firstRequestLatency(searches, 200);
+        BenchFigures held;
+        {
+            const HeldConnections connections(port, server.caPath(), idleConnections, slowConnections);
+            held = benchmark.firstRequestLatency(searches, 200);
+        }
+        std::printf("%zu different searches, %d concurrent clients for throughput, HTTPS keep-alive\n",
                     searches.size(), concurrentClients);
         report("search", search);
         report("floor (404)", cheapest);
-        std::printf("search / floor: p50 %.2fx   p99 %.2fx   throughput %.2fx\n", search.p50 / cheapest.p50,
-                    search.p99 / cheapest.p99, search.perSecond / cheapest.perSecond);
-        const bool met = search.p50 <= goalP50 && search.p50 <= goalFloorRatio * cheapest.p50 &&
-                         search.perSecond >= goalPerSecond;
-        std::printf("goals (p50 <= %.0f ms, p50 <= %.0fx floor, >= %.0f searches/s): %s\n", goalP50,
-                    goalFloorRatio, goalPerSecond, met ? "met" : "NOT met");
+        const double ratio = cheapest.perSecond / search.perSecond;
+        std::printf("floor / search throughput: %.2f (goal <= %.1f)   search p50 %.3f ms (goal <= %.0f ms)\n",
+                    ratio, goalThroughputRatio, search.p50, goalP50);
+        std::printf("search on a new connection: p50 %.3f ms   p99 %.3f ms\n", alone.p50, alone.p99);
+        std::printf(
+            "the same beside %d idle and %d slow connections: p50 %.3f ms   p99 %.3f ms (goal <= %.0f ms)\n",
+            idleConnections, slowConnections, held.p50, held.p99, goalHeldP99);
+        const bool met = ratio <= goalThroughputRatio && search.p50 <= goalP50 && held.p99 <= goalHeldP99;
+        std::printf("goals: %s\n", met ? "met" : "NOT met");
         (void)benchPictures(benchmark, settings.database, cheapest, concurrentClients, seconds);
     } catch (const std::exception &error) {
         std::fprintf(stderr, "bench failed: %s\n", error.what());

@@ -10,13 +10,35 @@ namespace {
     throw SqliteError(std::string(what) + ": " + (db ? sqlite3_errmsg(db) : "out of memory"));
 }
 
+// A read-only connection opens the file as immutable: the service never changes it in
+// place (an import writes a new file and renames it), so SQLite can skip the file locks
+// and change checks it would otherwise make for every query.
+std::string immutableUri(const std::string &path)
+{
+    std::string uri = "file:";
+    for (const char c : path) {
+        if (c == '%' || c == '?' || c == '#') {
+            constexpr std::string_view hex = "0123456789ABCDEF";
+            const auto byte = static_cast<unsigned char>(c);
+            uri += '%';
+            uri += hex[byte >> 4];
+            uri += hex[byte & 0xF];
+        } else {
+            uri += c;
+        }
+    }
+    return uri + "?immutable=1";
+}
+
 } // namespace
 
 Connection::Connection(const std::string &path, Mode mode)
 {
+    const bool readOnly = mode == Mode::ReadOnly;
     const int flags =
-        mode == Mode::ReadOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
-    if (sqlite3_open_v2(path.c_str(), &m_db, flags | SQLITE_OPEN_NOMUTEX, nullptr) != SQLITE_OK) {
+        readOnly ? SQLITE_OPEN_READONLY | SQLITE_OPEN_URI : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
+    const std::string name = readOnly ? immutableUri(path) : path;
+    if (sqlite3_open_v2(name.c_str(), &m_db, flags | SQLITE_OPEN_NOMUTEX, nullptr) != SQLITE_OK) {
         const std::string message =
             "cannot open database " + path + ": " + (m_db ? sqlite3_errmsg(m_db) : "out of memory");
         sqlite3_close(m_db);

@@ -24,7 +24,7 @@ std::unique_ptr<Catalog> loadCatalog(const std::string &database)
 
 FoodServer::FoodServer(const ServerOptions &options)
     : m_host(options.host), m_catalog(loadCatalog(options.database)), m_pool(options.database),
-      m_search(*m_catalog, m_pool), m_store(m_pool), m_api(*m_catalog, m_search, m_store, options.apiKey)
+      m_search(*m_catalog), m_store(m_pool), m_api(*m_catalog, m_search, m_store, options.apiKey)
 {
     if (options.certificatePath.empty() != options.keyPath.empty())
         throw std::runtime_error("--cert and --key go together");

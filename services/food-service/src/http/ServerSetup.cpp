@@ -9,6 +9,14 @@ namespace {
 
 constexpr std::size_t largestRequest = 64 * 1024;
 constexpr std::size_t keepAliveRequests = 100000;
+// A connection holds one worker from its handshake to its close, blocked in reads most of
+// that time. Far more workers than cores keep idle and slow clients (hundreds of them)
+// from taking them all; blocked threads cost stack address space, not CPU.
+constexpr std::size_t workerCount = 512;
+// How long a client may send nothing during the TLS handshake or inside a request before it
+// is dropped, and how long a kept-alive connection may wait for its next request.
+constexpr time_t silenceSeconds = 2;
+constexpr time_t keepAliveSeconds = 5;
 
 std::size_t headerBytes(const httplib::Request &request)
 {
@@ -40,6 +48,9 @@ std::string statusText(int status)
 
 void configureServer(httplib::Server &server)
 {
+    server.new_task_queue = [] { return new httplib::ThreadPool(workerCount); };
+    server.set_read_timeout(silenceSeconds);
+    server.set_keep_alive_timeout(keepAliveSeconds);
     server.set_tcp_nodelay(true);
     server.set_keep_alive_max_count(keepAliveRequests);
     server.set_payload_max_length(largestRequest);

@@ -1,5 +1,6 @@
 #include "search/SearchEngine.h"
 
+#include "catalog/EmbeddedTables.h"
 #include "search/Ranking.h"
 #include "text/FoldedText.h"
 
@@ -13,9 +14,19 @@ constexpr std::size_t maxSearchWords = 12;
 
 } // namespace
 
-SearchEngine::SearchEngine(const Catalog &catalog, ConnectionPool &pool)
-    : m_catalog(catalog), m_pool(pool), m_corrector(catalog.vocabulary())
+SearchEngine::SearchEngine(const Catalog &catalog)
+    : m_catalog(catalog), m_index(catalog), m_corrector(catalog.vocabulary()),
+      m_searchWords(searchWordTable()), m_eatenForms(eatenFormTable())
 {
+    m_rules.reserve(catalog.foods().size());
+    m_eatenScore.reserve(catalog.foods().size());
+    for (const auto &food : catalog.foods()) {
+        m_rules.push_back(m_eatenForms.rulesFor(food));
+        int total = 0;
+        for (const auto rule : m_rules.back())
+            total += m_eatenForms.score(rule);
+        m_eatenScore.push_back(total);
+    }
 }
 
 std::vector<RankedFood> SearchEngine::matches(std::string_view text) const
@@ -30,7 +41,7 @@ std::vector<RankedFood> SearchEngine::matches(std::string_view text) const
         return found;
     bool corrected = false;
     for (auto &word : words) {
-        if (m_corrector.isKnownPrefix(word))
+        if (m_corrector.isKnownPrefix(word) || m_searchWords.hasSynonyms(word))
             continue;
         if (auto correction = m_corrector.correction(word)) {
             word = std::move(*correction);
@@ -42,20 +53,18 @@ std::vector<RankedFood> SearchEngine::matches(std::string_view text) const
 
 std::vector<RankedFood> SearchEngine::lookUp(const std::vector<std::string> &words) const
 {
-    // Folded words hold only letters and digits, so quoting them is enough.
-    std::string expression;
-    for (const auto &word : words) {
-        if (!expression.empty())
-            expression += ' ';
-        expression += '"' + word + "\"*";
-    }
+    const auto terms = m_searchWords.terms(words);
+    const auto setAside = m_eatenForms.setAsideBy(terms);
+    const bool anySetAside = std::find(setAside.begin(), setAside.end(), true) != setAside.end();
     std::vector<RankedFood> found;
-    auto lease = m_pool.acquire();
-    auto &query = lease->prepared("SELECT rowid FROM food_search WHERE food_search MATCH ?");
-    query.bind(1, expression);
-    while (query.step()) {
-        if (const auto *food = m_catalog.find(query.integer(0)))
-            found.push_back({relevance(*food, words), food});
+    for (const auto index : m_index.lookUp(terms)) {
+        const auto &food = m_catalog.foods()[index];
+        int eaten = m_eatenScore[index];
+        if (anySetAside) {
+            for (const auto rule : m_rules[index])
+                eaten -= setAside[rule] ? m_eatenForms.score(rule) : 0;
+        }
+        found.push_back({relevance(food, terms) + eaten, &food});
     }
     return found;
 }
