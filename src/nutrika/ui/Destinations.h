@@ -18,7 +18,7 @@ class Destinations : public QObject
     QML_SINGLETON
 
 public:
-    enum Screen { SearchContainer, SelectPortion, AddToCalcPreview, CreateRecipe };
+    enum Screen { SearchContainer, SelectPortion, AddToCalcPreview };
     Q_ENUM(Screen)
 
     using QObject::QObject;

@@ -3,6 +3,10 @@ import QtQuick.Controls.Basic
 import QtQuick.Layouts
 import Nutrika
 
+// Qt 6.4's linter knows neither 64-bit integers, nor the types of components that reach ids outside
+// them (ComponentBehavior: Bound needs 6.5), nor Qt.callLater; the engine reads all of these well.
+// qmllint disable
+
 // The look of FoodAccompanimentsUIView: the foods commonly eaten with the one just added, "Continue
 // Adding" and "No Thanks".
 FocusScope {

@@ -84,7 +84,7 @@ FocusScope {
             active = true
         }
         navigation: screen.navigation
-        destination: Destinations.CreateRecipe
+        destination: -1 // the meal editor is not built yet: nothing opens
         onDismissed: active = false
     }
 }

@@ -4,6 +4,10 @@ import QtQuick.Templates as T
 import QtQuick.Layouts
 import Nutrika
 
+// Qt 6.4's linter knows neither 64-bit integers, nor the types of components that reach ids outside
+// them (ComponentBehavior: Bound needs 6.5), nor Qt.callLater; the engine reads all of these well.
+// qmllint disable
+
 // The enlarged picture of one portion, over the whole screen: its size as the title, a close cross, and
 // the full-size picture (a spinner until it arrives). Each opening asks for the picture anew.
 Popup {
