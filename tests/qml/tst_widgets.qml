@@ -24,7 +24,12 @@ TestCase {
             property alias spinner: spinner
             ViewContainer { id: frame; width: 400; height: 90; titleText: "Carb Calculator" }
             ViewContainer { id: untitled; width: 400; height: 90 }
-            CustomPickerUIView { id: picker; x: 20; width: 360; options: ["Search", "Meals"]; selected: 1 }
+            CustomPickerUIView {
+                id: picker; x: 20; width: 360; options: ["Search", "Meals"]
+                property int ownerChoice: 1
+                selected: ownerChoice
+                onSelect: index => ownerChoice = index
+            }
             ListHeader { id: filled; width: 400; title: "Non-Branded"; rightTitle: "12" }
             ListHeader { id: outlined; width: 400; title: "Saved Meals"; clear: true }
             Row {
@@ -72,6 +77,9 @@ TestCase {
         compare(segment(picker, 1).fill, Look.detailColor)
         mouseClick(segment(picker, 0))
         compare(picker.selected, 0)
+        picker.ownerChoice = 1 // the owner's binding is still in force
+        compare(picker.selected, 1)
+        picker.ownerChoice = 0
         compare(selections.count, 1)
         compare(selections.signalArguments[0][0], 0)
         mouseClick(segment(picker, 0)) // the selected option tells the owner again

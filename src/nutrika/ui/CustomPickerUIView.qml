@@ -1,7 +1,7 @@
 import QtQuick
 import Nutrika
 
-// A segmented picker: equally wide options, one selected. A tap sets `selected`, then emits select(index).
+// A segmented picker: equally wide options, one selected. A tap emits select(index); the owner sets `selected`.
 Rectangle {
     id: picker
 
@@ -10,8 +10,8 @@ Rectangle {
 
     signal select(int index)
 
+    // Reports the choice; the owner writes `selected`, so a binding of the owner's stays in force.
     function choose(index) {
-        selected = index
         select(index)
     }
 
