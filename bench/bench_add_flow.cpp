@@ -6,11 +6,11 @@
 //   "Add to calculator" until the calculator shows the new line and total (goal: one frame).
 #include "EnvironmentVariables.h"
 #include "FoodServiceProcess.h"
-#include "SelectPortionUIView.h"
 #include "nutrika/Nutrika.h"
+#include "SelectPortionUIView.h"
 
+#include <cstdio>
 #include <QElapsedTimer>
-#include <QSslCertificate>
 #include <QGuiApplication>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
@@ -18,7 +18,7 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
-#include <cstdio>
+#include <QSslCertificate>
 
 using namespace nutrika;
 
@@ -48,9 +48,7 @@ void waitUntil(const std::function<bool()> &done)
 class Bench
 {
 public:
-    Bench(const FoodServiceProcess &service, QQuickWindow *window)
-        : m_service(service)
-        , m_window(window)
+    Bench(const FoodServiceProcess &service, QQuickWindow *window) : m_service(service), m_window(window)
     {
         QObject::connect(window, &QQuickWindow::frameSwapped, [this] { ++m_frames; });
     }
@@ -91,10 +89,11 @@ private:
 QObject *push(QQuickWindow *window, const char *screen, const QVariantMap &properties)
 {
     QVariant item;
-    QMetaObject::invokeMethod(window, "pushScreen", Q_RETURN_ARG(QVariant, item),
-                              Q_ARG(QVariant, QUrl(QStringLiteral("qrc:/qt/qml/Nutrika/screens/portion/%1.qml")
-                                                       .arg(QLatin1StringView(screen)))),
-                              Q_ARG(QVariant, properties));
+    QMetaObject::invokeMethod(
+        window, "pushScreen", Q_RETURN_ARG(QVariant, item),
+        Q_ARG(QVariant, QUrl(QStringLiteral("qrc:/qt/qml/Nutrika/screens/portion/%1.qml")
+                                 .arg(QLatin1StringView(screen)))),
+        Q_ARG(QVariant, properties));
     return item.value<QObject *>();
 }
 
@@ -118,12 +117,13 @@ int main(int argc, char **argv)
     QQmlEngine engine;
     prepareNutrikaEngine(engine);
     QQmlComponent component(&engine);
-    component.setData("import QtQuick\nimport QtQuick.Controls.Basic\nimport Nutrika\n"
-                      "Window { width: 430; height: 860; visible: true\n"
-                      "  function pushScreen(url, properties) {\n"
-                      "    return root.navigation.push(url, Object.assign({ navigation: root.navigation }, properties)) }\n"
-                      "  NutrikaRoot { id: root; anchors.fill: parent } }",
-                      QUrl());
+    component.setData(
+        "import QtQuick\nimport QtQuick.Controls.Basic\nimport Nutrika\n"
+        "Window { width: 430; height: 860; visible: true\n"
+        "  function pushScreen(url, properties) {\n"
+        "    return root.navigation.push(url, Object.assign({ navigation: root.navigation }, properties)) }\n"
+        "  NutrikaRoot { id: root; anchors.fill: parent } }",
+        QUrl());
     auto *window = qobject_cast<QQuickWindow *>(component.create());
     if (!window) {
         std::fprintf(stderr, "%s\n", qPrintable(component.errorString()));
@@ -138,10 +138,13 @@ int main(int argc, char **argv)
     for (int round = 0; round < 5; ++round) {
         for (const Food &food : foods) {
             env->setSearchActive(true);
-            waitUntil([stack] { return stack->property("depth").toInt() == 2 && !stack->property("busy").toBool(); });
+            waitUntil([stack] {
+                return stack->property("depth").toInt() == 2 && !stack->property("busy").toBool();
+            });
             portionsFloor.push_back(bench.bareMs(QStringLiteral("/api/v1/healthcare//food/%1").arg(food.id)));
             thumbFloor.push_back(bench.bareMs(
-                QStringLiteral("/api/v1/healthcare//food_portion_images/%1?width=200&height=200&type=thumbnail")
+                QStringLiteral(
+                    "/api/v1/healthcare//food_portion_images/%1?width=200&height=200&type=thumbnail")
                     .arg(food.portionId),
                 false));
             nutrientFloor.push_back(bench.bareMs(
@@ -149,23 +152,25 @@ int main(int argc, char **argv)
                     .arg(food.id)
                     .arg(food.grams)));
 
-            const QVariant foodItem = QVariant::fromValue(FoodItem{QString(), food.id, food.id, QString(), false});
+            const QVariant foodItem =
+                QVariant::fromValue(FoodItem{QString(), food.id, food.id, QString(), false});
             QElapsedTimer timer;
             timer.start();
-            QObject *portions = push(window, "SelectPortionScreen", {{QStringLiteral("selectedFood"), foodItem}});
+            QObject *portions =
+                push(window, "SelectPortionScreen", {{QStringLiteral("selectedFood"), foodItem}});
             auto *state = portions->property("uiView").value<SelectPortionUIView *>();
             auto *grid = portions->findChild<QQuickItem *>(QStringLiteral("portionGrid"));
             portionsMs.push_back(bench.untilDrawn(timer, [state, grid] {
-                return !state->portionOptions().isEmpty()
-                       && grid->property("count").toInt() == state->portionOptions().size() + 1;
+                return !state->portionOptions().isEmpty() &&
+                       grid->property("count").toInt() == state->portionOptions().size() + 1;
             }));
             // Every thumbnail of a box in view.
             const double laidOut = portionsMs.back();
             thumbMs.push_back(bench.untilDrawn(timer, [grid] {
-                const QList<QQuickItem *> pictures = grid->findChildren<QQuickItem *>(QStringLiteral("thumbnail"));
-                return std::all_of(pictures.begin(), pictures.end(), [](QQuickItem *p) {
-                    return p->property("hasImage").toBool();
-                });
+                const QList<QQuickItem *> pictures =
+                    grid->findChildren<QQuickItem *>(QStringLiteral("thumbnail"));
+                return std::all_of(pictures.begin(), pictures.end(),
+                                   [](QQuickItem *p) { return p->property("hasImage").toBool(); });
             }) - laidOut);
 
             PortionItem portion = state->portionOptions().value(0, basePortionItem());
@@ -174,7 +179,8 @@ int main(int argc, char **argv)
                                     {{QStringLiteral("selectedFood"), foodItem},
                                      {QStringLiteral("selectedPortion"), QVariant::fromValue(portion)}});
             auto *carbs = preview->findChild<QQuickItem *>(QStringLiteral("carbohydratesValue"));
-            nutrientMs.push_back(bench.untilDrawn(timer, [carbs] { return !carbs->property("text").toString().isEmpty(); }));
+            nutrientMs.push_back(
+                bench.untilDrawn(timer, [carbs] { return !carbs->property("text").toString().isEmpty(); }));
 
             auto *lines = window->findChild<QQuickItem *>(QStringLiteral("lineList"));
             const int before = lines->property("count").toInt();
@@ -182,17 +188,21 @@ int main(int argc, char **argv)
             QMetaObject::invokeMethod(preview->property("uiView").value<QObject *>(), "add");
             addMs.push_back(bench.untilDrawn(timer, [lines, before] {
                 QQuickItem *line = nullptr;
-                QMetaObject::invokeMethod(lines, "itemAtIndex", Q_RETURN_ARG(QQuickItem *, line), Q_ARG(int, before));
+                QMetaObject::invokeMethod(lines, "itemAtIndex", Q_RETURN_ARG(QQuickItem *, line),
+                                          Q_ARG(int, before));
                 return lines->property("count").toInt() == before + 1 && line;
             }));
-            waitUntil([stack] { return stack->property("depth").toInt() == 1 && !stack->property("busy").toBool(); });
+            waitUntil([stack] {
+                return stack->property("depth").toInt() == 1 && !stack->property("busy").toBool();
+            });
             env->setFoodItemForAccompaniments(std::nullopt);
         }
     }
-    const auto row = [](const char *what, const std::vector<double> &floor, const std::vector<double> &measured,
-                        double goal) {
+    const auto row = [](const char *what, const std::vector<double> &floor,
+                        const std::vector<double> &measured, double goal) {
         const double f = median(floor), m = median(measured);
-        std::printf("%-44s %7.2f ms  floor %7.2f ms  difference %6.2f ms (goal <= %.0f ms)\n", what, m, f, m - f, goal);
+        std::printf("%-44s %7.2f ms  floor %7.2f ms  difference %6.2f ms (goal <= %.0f ms)\n", what, m, f,
+                    m - f, goal);
     };
     row("tapped food to all portion boxes laid out", portionsFloor, portionsMs, 16);
     row("boxes laid out to every visible thumbnail", thumbFloor, thumbMs, 16);

@@ -1,11 +1,11 @@
 // Cold start of `nutrika-demo --preview calculator --screenshot` against a minimal Qt Quick window that
 // does the same (the floor), measured in the same run: wall time and peak resident memory, as medians.
-#include <QDir>
-#include <QTemporaryDir>
-#include <QtGlobal>
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <QDir>
+#include <QTemporaryDir>
+#include <QtGlobal>
 #include <spawn.h>
 #include <sys/resource.h>
 #include <sys/wait.h>

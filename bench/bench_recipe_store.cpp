@@ -4,13 +4,13 @@
 #include "RecipeDocument.h"
 #include "RecipeStore.h"
 
+#include <cstdio>
+#include <functional>
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QJsonDocument>
 #include <QStandardPaths>
 #include <QTemporaryDir>
-#include <cstdio>
-#include <functional>
 #include <unistd.h>
 
 using namespace nutrika;
@@ -75,10 +75,13 @@ int main(int argc, char **argv)
     });
 
     FILE *out = fdopen(report, "w");
-    std::fprintf(out, "saved meals: 1000 x 10 lines, document %lld bytes\n", static_cast<long long>(document.size()));
+    std::fprintf(out, "saved meals: 1000 x 10 lines, document %lld bytes\n",
+                 static_cast<long long>(document.size()));
     std::fprintf(out, "floor  QJsonDocument::fromJson  %8.2f ms\n", floorMs);
-    std::fprintf(out, "getRecipes                      %8.2f ms  %.2fx floor (goal <= 2x)\n", getMs, getMs / floorMs);
-    std::fprintf(out, "saveRecipe                      %8.2f ms  %.2fx floor (goal <= 4x)\n", saveMs, saveMs / floorMs);
+    std::fprintf(out, "getRecipes                      %8.2f ms  %.2fx floor (goal <= 2x)\n", getMs,
+                 getMs / floorMs);
+    std::fprintf(out, "saveRecipe                      %8.2f ms  %.2fx floor (goal <= 4x)\n", saveMs,
+                 saveMs / floorMs);
     std::fclose(out);
     return 0;
 }

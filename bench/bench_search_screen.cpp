@@ -7,6 +7,7 @@
 #include "ItemSearchUIView.h"
 #include "nutrika/Nutrika.h"
 
+#include <cstdio>
 #include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QNetworkAccessManager>
@@ -15,15 +16,14 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
-#include <cstdio>
 
 using namespace nutrika;
 
 namespace {
 
-const QStringList queries{QStringLiteral("banana"), QStringLiteral("cheese"), QStringLiteral("bread"),
-                          QStringLiteral("chicken"), QStringLiteral("milk"), QStringLiteral("rice"),
-                          QStringLiteral("apple"), QStringLiteral("cereal")};
+const QStringList queries{QStringLiteral("banana"),  QStringLiteral("cheese"), QStringLiteral("bread"),
+                          QStringLiteral("chicken"), QStringLiteral("milk"),   QStringLiteral("rice"),
+                          QStringLiteral("apple"),   QStringLiteral("cereal")};
 
 double median(std::vector<double> values)
 {
@@ -113,7 +113,8 @@ int main(int argc, char **argv)
     std::printf("floor  bare HTTPS search request      %7.2f ms (median of %zu)\n", floor, floorMs.size());
     std::printf("search settled text to first page shown %7.2f ms\n", shown);
     std::printf("  of which: reply applied to the state  %7.2f ms\n", median(appliedMs));
-    std::printf("difference                              %7.2f ms (goal <= 16 ms, one frame)\n", shown - floor);
+    std::printf("difference                              %7.2f ms (goal <= 16 ms, one frame)\n",
+                shown - floor);
     delete window;
     return 0;
 }

@@ -3,14 +3,14 @@
 #include "FoodSearchRequest.h"
 #include "NutrientsRequest.h"
 
-#include <QElapsedTimer>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <algorithm>
 #include <cstdio>
 #include <functional>
 #include <limits>
+#include <QElapsedTimer>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 using namespace nutrika;
 using namespace Qt::Literals::StringLiterals;
@@ -35,15 +35,17 @@ QByteArray searchReply()
 {
     QJsonArray results;
     for (int i = 0; i < 50; ++i) {
-        results.append(QJsonObject{{u"id"_s, 170000 + i},
-                                   {u"description"_s, u"Cereals ready-to-eat, whole grain flakes, %1"_s.arg(i)},
-                                   {u"food_brand"_s, i % 3 ? u"GENERAL MILLS"_s : QString()},
-                                   {u"food_category"_s, u"Breakfast Cereals"_s},
-                                   {u"is_generic_item"_s, i % 3 ? 0 : 1}});
+        results.append(
+            QJsonObject{{u"id"_s, 170000 + i},
+                        {u"description"_s, u"Cereals ready-to-eat, whole grain flakes, %1"_s.arg(i)},
+                        {u"food_brand"_s, i % 3 ? u"GENERAL MILLS"_s : QString()},
+                        {u"food_category"_s, u"Breakfast Cereals"_s},
+                        {u"is_generic_item"_s, i % 3 ? 0 : 1}});
     }
-    return QJsonDocument(QJsonObject{{u"count"_s, 1203},
-                                     {u"next"_s, u"https://food.nutrika.app/api/v1/healthcare//food?offset=50"_s},
-                                     {u"results"_s, results}})
+    return QJsonDocument(
+               QJsonObject{{u"count"_s, 1203},
+                           {u"next"_s, u"https://food.nutrika.app/api/v1/healthcare//food?offset=50"_s},
+                           {u"results"_s, results}})
         .toJson(QJsonDocument::Compact);
 }
 
@@ -53,7 +55,8 @@ QByteArray nutrientsReply()
     QJsonArray micro;
     for (int i = 0; i < 40; ++i) {
         const QJsonObject element{
-            {u"nutrient"_s, QJsonObject{{u"id"_s, 200 + i}, {u"name"_s, i == 2 ? u"Carbohydrates"_s : u"Nutrient %1"_s.arg(i)}}},
+            {u"nutrient"_s, QJsonObject{{u"id"_s, 200 + i},
+                                        {u"name"_s, i == 2 ? u"Carbohydrates"_s : u"Nutrient %1"_s.arg(i)}}},
             {u"amount"_s, QJsonObject{{u"value"_s, 0.0137 * (i + 1) * 118}, {u"units"_s, u"milligrams"_s}}}};
         (i < 10 ? macro : micro).append(element);
     }
@@ -68,7 +71,8 @@ void report(const char *what, const QByteArray &bytes, const std::function<qsize
     double floor = std::numeric_limits<double>::max();
     double mapped = floor;
     for (int round = 0; round < 40; ++round) {
-        floor = std::min(floor, batchMicroseconds([&] { sink = QJsonDocument::fromJson(bytes).object().size(); }));
+        floor = std::min(floor,
+                         batchMicroseconds([&] { sink = QJsonDocument::fromJson(bytes).object().size(); }));
         mapped = std::min(mapped, batchMicroseconds([&] { sink = map(); }));
     }
     std::printf("%-24s %5lld bytes   map %7.2f us/reply   floor (QJsonDocument::fromJson) %7.2f us   "

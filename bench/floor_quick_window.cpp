@@ -27,8 +27,12 @@ int main(int argc, char *argv[])
     view.setContent(QUrl(), &component, component.create());
     view.resize(430, 860);
     view.show();
-    QObject::connect(&view, &QQuickWindow::afterRendering, &app, [&] {
-        QTimer::singleShot(50, &app, [&] { QCoreApplication::exit(view.grabWindow().save(path) ? 0 : 1); });
-    }, Qt::SingleShotConnection);
+    QObject::connect(
+        &view, &QQuickWindow::afterRendering, &app,
+        [&] {
+            QTimer::singleShot(50, &app,
+                               [&] { QCoreApplication::exit(view.grabWindow().save(path) ? 0 : 1); });
+        },
+        Qt::SingleShotConnection);
     return QGuiApplication::exec();
 }

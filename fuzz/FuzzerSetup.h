@@ -6,9 +6,9 @@
 #include <vector>
 
 /// Adds the checked-in dictionary (JSON unless named) and the target's seed inputs to libFuzzer's
-/// arguments. Without them the fuzzer rarely gets past the JSON or XML parser, which is not instrumented. The seeds join only when
-/// every input the caller named is a corpus directory, so reproducing one file works as usual, and the
-/// caller's first directory still receives the new inputs.
+/// arguments. Without them the fuzzer rarely gets past the JSON or XML parser, which is not instrumented. The
+/// seeds join only when every input the caller named is a corpus directory, so reproducing one file works as
+/// usual, and the caller's first directory still receives the new inputs.
 inline void addSeedsAndDictionary(int *argc, char ***argv, const char *target,
                                   const char *dictionary = "json.dict")
 {

@@ -1,5 +1,5 @@
-#include "FuzzerSetup.h"
 #include "AccompanyingFoodsRequest.h"
+#include "FuzzerSetup.h"
 
 #include <cstddef>
 #include <cstdint>

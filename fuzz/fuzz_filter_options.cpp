@@ -1,5 +1,5 @@
-#include "FuzzerSetup.h"
 #include "FilterOptionsRequest.h"
+#include "FuzzerSetup.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,5 +1,5 @@
-#include "FuzzerSetup.h"
 #include "FoodSearchRequest.h"
+#include "FuzzerSetup.h"
 
 #include <cstddef>
 #include <cstdint>

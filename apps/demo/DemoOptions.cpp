@@ -54,8 +54,8 @@ std::variant<DemoOptions, int> parseDemoOptions(const QStringList &arguments)
     parser.setApplicationDescription(u"A host application that opens the Nutrika carb calculator.\n"
                                      u"Without --service-origin it starts the bundled food-data service."_s);
     const QCommandLineOption help = parser.addHelpOption();
-    const QCommandLineOption preview(u"preview"_s, u"Show <screen> with sample data; without a name, list the screens."_s,
-                                     u"screen"_s);
+    const QCommandLineOption preview(
+        u"preview"_s, u"Show <screen> with sample data; without a name, list the screens."_s, u"screen"_s);
     const QCommandLineOption screenshot(u"screenshot"_s, u"Save the view as <file.png> and exit."_s,
                                         u"file.png"_s);
     const QCommandLineOption origin(

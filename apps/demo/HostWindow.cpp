@@ -9,8 +9,8 @@
 using namespace Qt::Literals::StringLiterals;
 
 HostWindow::HostWindow(QString apiKey, QString serviceNote)
-    : m_apiKey(std::move(apiKey))
-    , m_status(new QLabel(u"Count the carbohydrates of a meal before you dose."_s, this))
+    : m_apiKey(std::move(apiKey)),
+      m_status(new QLabel(u"Count the carbohydrates of a meal before you dose."_s, this))
 {
     setWindowTitle(u"Nutrika demo host"_s);
     auto *layout = new QVBoxLayout(this);

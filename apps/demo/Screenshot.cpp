@@ -1,13 +1,13 @@
 #include "Screenshot.h"
 
+#include <cstdio>
+#include <functional>
 #include <QCoreApplication>
 #include <QImage>
 #include <QPixmap>
 #include <QQuickWidget>
 #include <QQuickWindow>
 #include <QTimer>
-#include <cstdio>
-#include <functional>
 
 namespace {
 
@@ -25,8 +25,8 @@ void afterFirstFrame(QQuickWindow *window, QObject *context, const std::function
     auto *done = new QTimer(context);
     done->setSingleShot(true);
     QObject::connect(done, &QTimer::timeout, context, save);
-    QObject::connect(window, &QQuickWindow::afterRendering, done, [done] { done->start(50); },
-                     Qt::SingleShotConnection);
+    QObject::connect(
+        window, &QQuickWindow::afterRendering, done, [done] { done->start(50); }, Qt::SingleShotConnection);
     done->start(5000);
 }
 

@@ -21,18 +21,21 @@ constexpr QSize previewSize(430, 860);
 
 // Each previewable screen, drawn over its sample data the way a QML host embeds the module.
 const QMap<QString, QByteArray> previews = {
-    {u"calculator"_s, "import Nutrika\nNutrikaRoot { calculator: CarbCounterUIView { preview: Preview.Main } }\n"},
+    {u"calculator"_s,
+     "import Nutrika\nNutrikaRoot { calculator: CarbCounterUIView { preview: Preview.Main } }\n"},
     {u"portion"_s, "import QtQuick.Controls.Basic\nimport Nutrika\nStackView { id: s; initialItem: "
                    "SelectPortionScreen { navigation: s; uiView.preview: Preview.Images } }\n"},
-    {u"portion-descriptions"_s, "import QtQuick.Controls.Basic\nimport Nutrika\nStackView { id: s; initialItem: "
-                                "SelectPortionScreen { navigation: s; uiView.preview: Preview.Descriptions } }\n"},
+    {u"portion-descriptions"_s,
+     "import QtQuick.Controls.Basic\nimport Nutrika\nStackView { id: s; initialItem: "
+     "SelectPortionScreen { navigation: s; uiView.preview: Preview.Descriptions } }\n"},
     {u"preview-add"_s, "import QtQuick.Controls.Basic\nimport Nutrika\nStackView { id: s; initialItem: "
                        "AddToCalcPreviewScreen { navigation: s; uiView.preview: Preview.AddNew } }\n"},
     {u"preview-edit"_s, "import QtQuick.Controls.Basic\nimport Nutrika\nStackView { id: s; initialItem: "
                         "AddToCalcPreviewScreen { navigation: s; uiView.preview: Preview.Edit } }\n"},
-    {u"suggestions"_s, "import QtQuick\nimport Nutrika\nRectangle { color: \"#808080\"\n"
-                       "Rectangle { anchors.fill: parent; anchors.margins: 20; radius: 14\n"
-                       "FoodAccompanimentsScreen { anchors.fill: parent; uiView.preview: Preview.Main } } }\n"},
+    {u"suggestions"_s,
+     "import QtQuick\nimport Nutrika\nRectangle { color: \"#808080\"\n"
+     "Rectangle { anchors.fill: parent; anchors.margins: 20; radius: 14\n"
+     "FoodAccompanimentsScreen { anchors.fill: parent; uiView.preview: Preview.Main } } }\n"},
 };
 
 int fail(const QString &message)

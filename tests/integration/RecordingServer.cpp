@@ -34,8 +34,8 @@ QList<QByteArray> RecordingServer::Request::headerNames() const
 }
 
 RecordingServer::RecordingServer(const QString &certificateFile)
-    : m_certificate(readFile(tlsDirectory() + u'/' + certificateFile))
-    , m_key(readFile(tlsDirectory() + QStringLiteral("/server.key")), QSsl::Rsa)
+    : m_certificate(readFile(tlsDirectory() + u'/' + certificateFile)),
+      m_key(readFile(tlsDirectory() + QStringLiteral("/server.key")), QSsl::Rsa)
 {
     if (!listen(QHostAddress::LocalHost, 0))
         qFatal("cannot listen: %s", qPrintable(errorString()));

@@ -13,8 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-template <typename T>
-QString countOrNone(const std::optional<T> &value, const QString &what)
+template <typename T> QString countOrNone(const std::optional<T> &value, const QString &what)
 {
     return value ? u"%1 %2"_s.arg(value->size()).arg(what) : u"none"_s;
 }
@@ -37,8 +36,9 @@ Probe foodSearch(const FoodSearchQuery &query)
                 return;
             }
             const auto &page = std::get<FoodSearchPage>(result);
-            report(u"page of %1: %2 generic, %3 branded"_s.arg(page.count).arg(page.generic.size()).arg(
-                page.branded.size()));
+            report(u"page of %1: %2 generic, %3 branded"_s.arg(page.count)
+                       .arg(page.generic.size())
+                       .arg(page.branded.size()));
         });
     };
 }
@@ -47,7 +47,8 @@ Probe filterOptions(const QString &search)
 {
     return [search](ServiceClient &client, QObject *context, auto report) {
         requestFilterOptions(client, search, context, [report](const std::optional<FilterOptions> &options) {
-            report(options ? u"%1 brands, %2 categories"_s.arg(options->brands.size()).arg(options->categories.size())
+            report(options ? u"%1 brands, %2 categories"_s.arg(options->brands.size())
+                                 .arg(options->categories.size())
                            : u"none"_s);
         });
     };

@@ -4,9 +4,9 @@
 #include "NutrientsRequest.h"
 #include "ServiceClient.h"
 
+#include <functional>
 #include <QObject>
 #include <QString>
-#include <functional>
 
 /// Sends one request through its public function and reports the outcome as a short text.
 using Probe = std::function<void(nutrika::ServiceClient &client, QObject *context,

@@ -8,8 +8,8 @@
 
 #include <QBuffer>
 #include <QImage>
-#include <QSslCertificate>
 #include <QSignalSpy>
+#include <QSslCertificate>
 #include <QTest>
 
 using namespace nutrika;
@@ -19,10 +19,12 @@ namespace {
 
 QByteArray portionJson(qint64 id, const char *imageName)
 {
-    return u"{\"order_num\":1,\"id\":%1,\"unit\":\"grams\",\"database_import\":1,\"size\":118,\"image_name\":\"%2\","
+    return u"{\"order_num\":1,\"id\":%1,\"unit\":\"grams\",\"database_import\":1,\"size\":118,\"image_name\":"
+           u"\"%2\","
            "\"description\":\"medium\",\"convertible_unit\":{\"type\":\"mass\",\"is_base\":1,\"id\":1,"
-           "\"to_base_conversion_rate\":1,\"name\":\"gram\",\"unit\":\"g\"}}"_s.arg(id).arg(QLatin1StringView(imageName))
-        .toUtf8();
+           "\"to_base_conversion_rate\":1,\"name\":\"gram\",\"unit\":\"g\"}}"_s.arg(id)
+               .arg(QLatin1StringView(imageName))
+               .toUtf8();
 }
 
 QByteArray png()
@@ -66,7 +68,8 @@ private slots:
         QTest::newRow("no portions: descriptions tab, custom box only")
             << 200 << QByteArray(R"({"portions":[]})") << 0 << 0 << 1;
         QTest::newRow("two portions share an id: both listed")
-            << 200 << "{\"portions\":[" + portionJson(5, "a") + "," + portionJson(5, "b") + "]}" << 2 << 0 << 0;
+            << 200 << "{\"portions\":[" + portionJson(5, "a") + "," + portionJson(5, "b") + "]}" << 2 << 0
+            << 0;
         QTest::newRow("500: nothing, tab kept") << 500 << QByteArray() << 0 << 0 << 0;
         QTest::newRow("not JSON: nothing, tab kept") << 200 << QByteArray("<html>") << 0 << 0 << 0;
     }
@@ -123,14 +126,16 @@ private slots:
             QTRY_COMPARE(server.requests().size(), before + 1);
             QTest::qWait(100);
             QCOMPARE(picture.hasImage(), shown);
-            QVERIFY(server.requests().last().requestLine.contains(fullSize ? "/food_portion_images/904005 "
-                                                                           : "/food_portion_images/904005?width=200"));
+            QVERIFY(server.requests().last().requestLine.contains(
+                fullSize ? "/food_portion_images/904005 " : "/food_portion_images/904005?width=200"));
         }
     }
 
     void nutrientsWithoutCarbohydrates()
     {
-        server.setReply({200, R"({"macronutrients":[{"nutrient":{"name":"Protein"},"amount":{"units":"grams","value":1.3}}]})"});
+        server.setReply(
+            {200,
+             R"({"macronutrients":[{"nutrient":{"name":"Protein"},"amount":{"units":"grams","value":1.3}}]})"});
         AddToCalcPreviewUIView view;
         view.startAdding(banana, example::examplePortionItem());
         view.fetchNutrients();

@@ -56,36 +56,38 @@ private slots:
         const Probe search = probe::foodSearch({u"banana"_s, 0, QString(), QString()});
         const QList<QByteArray> serverError{"Error loading data"};
         const QByteArray html = "<html><body>Not found</body></html>";
-        QTest::newRow("search 200") << search << 200 << searchPage << -1LL << u"page of 1: 1 generic, 0 branded"_s
-                                    << QList<QByteArray>();
-        QTest::newRow("search 399") << search << 399 << searchPage << -1LL << u"page of 1: 1 generic, 0 branded"_s
-                                    << QList<QByteArray>();
+        QTest::newRow("search 200") << search << 200 << searchPage << -1LL
+                                    << u"page of 1: 1 generic, 0 branded"_s << QList<QByteArray>();
+        QTest::newRow("search 399") << search << 399 << searchPage << -1LL
+                                    << u"page of 1: 1 generic, 0 branded"_s << QList<QByteArray>();
         QTest::newRow("search 400") << search << 400 << searchPage << -1LL << u"Error"_s << serverError;
         QTest::newRow("search 404") << search << 404 << html << -1LL << u"Error"_s << serverError;
         QTest::newRow("search 500") << search << 500 << QByteArray() << -1LL << u"Error"_s << serverError;
         QTest::newRow("search not JSON") << search << 200 << html << -1LL << u"Error"_s << serverError;
-        QTest::newRow("search truncated") << search << 200 << searchPage.left(40) << qint64(searchPage.size())
-                                          << u"Error"_s << serverError;
+        QTest::newRow("search truncated")
+            << search << 200 << searchPage.left(40) << qint64(searchPage.size()) << u"Error"_s << serverError;
         QTest::newRow("search empty") << search << 200 << QByteArray() << -1LL << u"Error"_s << serverError;
-        QTest::newRow("search 10 MB") << search << 200 << QByteArray(10 << 20, '[') << -1LL << u"Error"_s
-                                      << serverError;
-        QTest::newRow("filters 500") << probe::filterOptions(u"a"_s) << 500 << QByteArray() << -1LL << u"none"_s
-                                     << QList<QByteArray>{"Error loading brands/categories"};
+        QTest::newRow("search 10 MB")
+            << search << 200 << QByteArray(10 << 20, '[') << -1LL << u"Error"_s << serverError;
+        QTest::newRow("filters 500") << probe::filterOptions(u"a"_s) << 500 << QByteArray() << -1LL
+                                     << u"none"_s << QList<QByteArray>{"Error loading brands/categories"};
         QTest::newRow("filters not JSON") << probe::filterOptions(u"a"_s) << 200 << html << -1LL << u"none"_s
                                           << QList<QByteArray>{"Error loading brands/categories"};
-        QTest::newRow("portions 500") << probe::portions(1) << 500 << QByteArray() << -1LL << u"none"_s << serverError;
-        QTest::newRow("portions truncated") << probe::portions(1) << 200 << QByteArray(R"({"portions":[)") << 400LL
-                                            << u"none"_s << serverError;
-        QTest::newRow("nutrients 404 is silent") << probe::nutrients({}, basePortionItem()) << 404 << html << -1LL
-                                                 << u"none"_s << QList<QByteArray>();
-        QTest::newRow("nutrients empty is silent") << probe::nutrients({}, basePortionItem()) << 200 << QByteArray()
-                                                   << -1LL << u"none"_s << QList<QByteArray>();
-        QTest::newRow("accompanying 404 is silent") << probe::accompanyingFoods(1) << 404 << QByteArray("[]") << -1LL
-                                                    << u"none"_s << QList<QByteArray>();
-        QTest::newRow("thumbnail answered with HTML") << probe::thumbnail(1) << 200 << html << -1LL << u"none"_s
-                                                      << QList<QByteArray>();
-        QTest::newRow("picture 404 with HTML") << probe::picture(1) << 404 << html << -1LL << u"none"_s
-                                               << QList<QByteArray>();
+        QTest::newRow("portions 500")
+            << probe::portions(1) << 500 << QByteArray() << -1LL << u"none"_s << serverError;
+        QTest::newRow("portions truncated") << probe::portions(1) << 200 << QByteArray(R"({"portions":[)")
+                                            << 400LL << u"none"_s << serverError;
+        QTest::newRow("nutrients 404 is silent") << probe::nutrients({}, basePortionItem()) << 404 << html
+                                                 << -1LL << u"none"_s << QList<QByteArray>();
+        QTest::newRow("nutrients empty is silent")
+            << probe::nutrients({}, basePortionItem()) << 200 << QByteArray() << -1LL << u"none"_s
+            << QList<QByteArray>();
+        QTest::newRow("accompanying 404 is silent") << probe::accompanyingFoods(1) << 404 << QByteArray("[]")
+                                                    << -1LL << u"none"_s << QList<QByteArray>();
+        QTest::newRow("thumbnail answered with HTML")
+            << probe::thumbnail(1) << 200 << html << -1LL << u"none"_s << QList<QByteArray>();
+        QTest::newRow("picture 404 with HTML")
+            << probe::picture(1) << 404 << html << -1LL << u"none"_s << QList<QByteArray>();
     }
 
     void endsInTheDefinedOutcome()
@@ -117,15 +119,17 @@ private slots:
         const Probe search = probe::foodSearch({u"banana"_s, 0, QString(), QString()});
         const QList<QByteArray> unreachable{"Unable to connect to server, try again later"};
         QTest::newRow("search, refused") << search << u"refused"_s << u"Connection Error"_s << unreachable;
-        QTest::newRow("search, untrusted certificate") << search << u"stranger"_s << u"Connection Error"_s
-                                                       << unreachable;
-        QTest::newRow("search, plain http origin") << search << u"http"_s << u"Connection Error"_s << unreachable;
+        QTest::newRow("search, untrusted certificate")
+            << search << u"stranger"_s << u"Connection Error"_s << unreachable;
+        QTest::newRow("search, plain http origin")
+            << search << u"http"_s << u"Connection Error"_s << unreachable;
         QTest::newRow("portions, refused") << probe::portions(1) << u"refused"_s << u"none"_s << unreachable;
         QTest::newRow("filters, untrusted") << probe::filterOptions(u"a"_s) << u"stranger"_s << u"none"_s
                                             << QList<QByteArray>{"Error loading brands/categories"};
-        QTest::newRow("nutrients, refused") << probe::nutrients({}, basePortionItem()) << u"refused"_s << u"none"_s
-                                            << QList<QByteArray>();
-        QTest::newRow("picture, untrusted") << probe::picture(1) << u"stranger"_s << u"none"_s << QList<QByteArray>();
+        QTest::newRow("nutrients, refused")
+            << probe::nutrients({}, basePortionItem()) << u"refused"_s << u"none"_s << QList<QByteArray>();
+        QTest::newRow("picture, untrusted")
+            << probe::picture(1) << u"stranger"_s << u"none"_s << QList<QByteArray>();
     }
 
     void reportsConnectionFailures()

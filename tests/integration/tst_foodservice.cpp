@@ -15,8 +15,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 // Sends through `send` and waits for its one completion.
-template <typename Result, typename Send>
-std::optional<Result> await(Send send)
+template <typename Result, typename Send> std::optional<Result> await(Send send)
 {
     QObject context;
     std::optional<Result> result;
@@ -107,8 +106,9 @@ private slots:
     {
         const QList<PortionItem> portions = portionsOf(m_client, 9040);
         QCOMPARE(portions.size(), 8);
-        const auto medium = std::find_if(portions.cbegin(), portions.cend(),
-                                         [](const PortionItem &p) { return p.description.contains(u"medium"); });
+        const auto medium = std::find_if(portions.cbegin(), portions.cend(), [](const PortionItem &p) {
+            return p.description.contains(u"medium");
+        });
         QVERIFY(medium != portions.cend());
         QCOMPARE(medium->size, 118);
         QCOMPARE(medium->unit, u"grams"_s);

@@ -142,8 +142,8 @@ private slots:
         QTest::addColumn<int>("status");
         QTest::addColumn<QString>("title");
         QTest::addColumn<QString>("body");
-        QTest::newRow("connection refused") << 0 << u"Connection Error"_s
-                                            << u"Unable to connect to server, try again later"_s;
+        QTest::newRow("connection refused")
+            << 0 << u"Connection Error"_s << u"Unable to connect to server, try again later"_s;
         QTest::newRow("server error") << 500 << u"Error"_s << u"Error loading data"_s;
         QTest::newRow("not found") << 404 << u"Error"_s << u"Error loading data"_s;
         QTest::newRow("not JSON") << 200 << u"Error"_s << u"Error loading data"_s;

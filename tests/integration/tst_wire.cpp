@@ -26,14 +26,16 @@ private slots:
         QTest::addColumn<QByteArray>("target");
         QTest::addColumn<bool>("authorized");
         QTest::newRow("search") << probe::foodSearch({u" crème & co=1"_s, 50, QString(), u"Fruits/Juices?"_s})
-                                << QByteArray("/api/v1/healthcare//food?food_brand=&food_category=Fruits/Juices?"
-                                              "&limit=50&offset=50&search=%20cr%C3%A8me%20%26%20co%3D1")
+                                << QByteArray(
+                                       "/api/v1/healthcare//food?food_brand=&food_category=Fruits/Juices?"
+                                       "&limit=50&offset=50&search=%20cr%C3%A8me%20%26%20co%3D1")
                                 << true;
         QTest::newRow("filter options") << probe::filterOptions(u"é"_s)
                                         << QByteArray("/api/v1/healthcare//food/brands_and_categories"
                                                       "?limit=100&offset=0&search=%C3%A9")
                                         << true;
-        QTest::newRow("portions") << probe::portions(9040) << QByteArray("/api/v1/healthcare//food/9040") << true;
+        QTest::newRow("portions") << probe::portions(9040) << QByteArray("/api/v1/healthcare//food/9040")
+                                  << true;
         FoodItem food{u"x"_s, 41, 42, QString(), false};
         PortionItem portion = basePortionItem();
         portion.size = 30;
@@ -41,15 +43,15 @@ private slots:
                                           << QByteArray("/api/v1/healthcare//food/42/get_nutrients"
                                                         "?amount_unit=grams&amount_value=30")
                                           << true;
-        QTest::newRow("accompanying foods") << probe::accompanyingFoods(9040)
-                                            << QByteArray("/api/v1/healthcare//food/9040/accompanying_food_items")
-                                            << true;
+        QTest::newRow("accompanying foods")
+            << probe::accompanyingFoods(9040)
+            << QByteArray("/api/v1/healthcare//food/9040/accompanying_food_items") << true;
         QTest::newRow("thumbnail") << probe::thumbnail(512)
                                    << QByteArray("/api/v1/healthcare//food_portion_images/512"
                                                  "?width=200&height=200&type=thumbnail")
                                    << false;
-        QTest::newRow("picture") << probe::picture(512) << QByteArray("/api/v1/healthcare//food_portion_images/512")
-                                 << false;
+        QTest::newRow("picture") << probe::picture(512)
+                                 << QByteArray("/api/v1/healthcare//food_portion_images/512") << false;
     }
 
     void sendsExactRequestLines()
@@ -81,10 +83,10 @@ private slots:
         QTest::newRow("replaced between requests")
             << QStringList{u"first"_s, u"second"_s}
             << QList<QByteArray>{"Authorization: Api-Key first", "Authorization: Api-Key second"};
-        QTest::newRow("empty key keeps the space") << QStringList{QString()}
-                                                   << QList<QByteArray>{"Authorization: Api-Key "};
-        QTest::newRow("non-ASCII key as UTF-8") << QStringList{u"clé"_s}
-                                                << QList<QByteArray>{"Authorization: Api-Key cl\xC3\xA9"};
+        QTest::newRow("empty key keeps the space")
+            << QStringList{QString()} << QList<QByteArray>{"Authorization: Api-Key "};
+        QTest::newRow("non-ASCII key as UTF-8")
+            << QStringList{u"clé"_s} << QList<QByteArray>{"Authorization: Api-Key cl\xC3\xA9"};
     }
 
     void readsTheKeyForEachRequest()

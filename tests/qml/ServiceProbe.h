@@ -3,6 +3,7 @@
 #include "EnvironmentVariables.h"
 #include "FoodServiceProcess.h"
 
+#include <memory>
 #include <QEventLoop>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -10,9 +11,8 @@
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QObject>
-#include <QUrlQuery>
 #include <QtQmlIntegration>
-#include <memory>
+#include <QUrlQuery>
 
 /// Runs the local food-data service for the screen tests, points the session's client at it, and
 /// answers the tests' own questions straight from the service, past the module's code.
@@ -25,8 +25,7 @@ class ServiceProbe : public QObject
     Q_PROPERTY(QString screenshotDir READ screenshotDir CONSTANT)
 
 public:
-    ServiceProbe()
-        : m_service(std::make_unique<FoodServiceProcess>(QStringLiteral(NUTRIKA_FOOD_DB)))
+    ServiceProbe() : m_service(std::make_unique<FoodServiceProcess>(QStringLiteral(NUTRIKA_FOOD_DB)))
     {
         nutrika::ServiceClient *client = nutrika::EnvironmentVariables::shared()->serviceClient();
         client->setOrigin(QUrl(m_service->origin()));
@@ -55,7 +54,8 @@ public:
     /// The carbohydrates the service gives for `size` `unit` of a food.
     Q_INVOKABLE double carbohydrates(qint64 foodId, qint64 size, const QString &unit)
     {
-        QUrl url(m_service->origin() + QStringLiteral("/api/v1/healthcare//food/%1/get_nutrients").arg(foodId));
+        QUrl url(m_service->origin() +
+                 QStringLiteral("/api/v1/healthcare//food/%1/get_nutrients").arg(foodId));
         url.setQuery(QUrlQuery{{QStringLiteral("amount_value"), QString::number(size)},
                                {QStringLiteral("amount_unit"), unit}});
         const QJsonObject reply = get(url).object();

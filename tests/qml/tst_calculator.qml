@@ -70,18 +70,14 @@ TestCase {
         compare(findChild(calculator, "lineList").count, 0)
         compare(findChild(calculator, "totalAmount").text, "0 g")
         compare(findChild(calculator, "backRow").visible, false) // neither back nor "Close" here
-        // The search container is pushed once its look is part of the module.
-        const searchLook = String(Destinations.screen("SearchContainerUIView")) !== ""
-        tryCompare(root.navigation, "depth", searchLook ? 2 : 1)
+        tryCompare(root.navigation, "depth", 2)
         tryCompare(root.navigation, "busy", false)
         shoot(root, "calculator-empty-opens-search")
-        if (searchLook) {
-            // Back on an empty calculator: shown again, it asks for the search again.
-            EnvironmentVariables.searchActive = false
-            tryCompare(root.navigation, "depth", 1)
-            tryCompare(EnvironmentVariables, "searchActive", true)
-            tryCompare(root.navigation, "depth", 2)
-        }
+        // Back on an empty calculator: shown again, it asks for the search again.
+        EnvironmentVariables.searchActive = false
+        tryCompare(root.navigation, "depth", 1)
+        tryCompare(EnvironmentVariables, "searchActive", true)
+        tryCompare(root.navigation, "depth", 2)
     }
 
     function test_searchMoreFoodsSetsTheFlag() {

@@ -1,8 +1,8 @@
 #pragma once
 
+#include <cstdio>
 #include <QByteArray>
 #include <QTemporaryFile>
-#include <cstdio>
 #include <unistd.h>
 
 /// Redirects this process's standard output into a file for as long as it lives.

@@ -5,9 +5,9 @@
 #include "ExampleData.h"
 #include "RecipeStore.h"
 
+#include <cstdio>
 #include <QCoreApplication>
 #include <QStandardPaths>
-#include <cstdio>
 
 using namespace nutrika;
 

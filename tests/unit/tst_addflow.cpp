@@ -57,7 +57,8 @@ private slots:
         QTest::newRow("pasted 12a3") << u"12a3"_s << u"123"_s << true << qint64(123);
         QTest::newRow("sign and point") << u"-1.5"_s << u"15"_s << true << qint64(15);
         QTest::newRow("zero") << u"0"_s << u"0"_s << true << qint64(0);
-        QTest::newRow("20 digits") << u"12345678901234567890"_s << u"12345678901234567890"_s << false << qint64(-1);
+        QTest::newRow("20 digits") << u"12345678901234567890"_s << u"12345678901234567890"_s << false
+                                   << qint64(-1);
     }
 
     void customAmount()
@@ -166,7 +167,8 @@ private slots:
 
     void updateStoresTheLineAtItsOwnPosition()
     {
-        const DiaryEntryPtr first = example::exampleTrackedNutrient1(), second = example::exampleTrackedNutrient2();
+        const DiaryEntryPtr first = example::exampleTrackedNutrient1(),
+                            second = example::exampleTrackedNutrient2();
         env->setTrackedNutrientListItems({first, second});
         AddToCalcPreviewUIView view;
         view.startEditing(second.data());

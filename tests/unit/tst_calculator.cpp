@@ -82,11 +82,13 @@ private slots:
     void linesAmountsAndTotal()
     {
         CarbCounterUIView view;
-        env->setTrackedNutrientListItems({example::exampleTrackedNutrient1(), example::exampleTrackedNutrient2(),
-                                          example::exampleDiaryRecipeItem1(), example::exampleDiaryRecipeItem2()});
+        env->setTrackedNutrientListItems(
+            {example::exampleTrackedNutrient1(), example::exampleTrackedNutrient2(),
+             example::exampleDiaryRecipeItem1(), example::exampleDiaryRecipeItem2()});
         QCOMPARE(column(view, CalculatorLinesModel::TitleRole),
-                 (QStringList{example::exampleSelectedFood().description, example::exampleSelectedFood2().description,
-                              u"Cheeseburger"_s, u"Half A Burger"_s}));
+                 (QStringList{example::exampleSelectedFood().description,
+                              example::exampleSelectedFood2().description, u"Cheeseburger"_s,
+                              u"Half A Burger"_s}));
         QCOMPARE(column(view, CalculatorLinesModel::AmountRole),
                  (QStringList{u"25.8 g"_s, u"12.9 g"_s, u"77.4 g"_s, u"19.4 g"_s}));
         QCOMPARE(column(view, CalculatorLinesModel::IsFoodRole),
@@ -150,9 +152,11 @@ private slots:
     void aLineWithoutItsRecordShowsNoAmountAndCountsZero()
     {
         CarbCounterUIView view;
-        const auto incomplete = DiaryEntryPtr::create(123, example::examplePortionItem(), example::exampleSelectedFood());
+        const auto incomplete =
+            DiaryEntryPtr::create(123, example::examplePortionItem(), example::exampleSelectedFood());
         env->setTrackedNutrientListItems({incomplete, foodLine(2, 1)});
-        QCOMPARE(column(view, CalculatorLinesModel::TitleRole)[0], example::exampleSelectedFood().description);
+        QCOMPARE(column(view, CalculatorLinesModel::TitleRole)[0],
+                 example::exampleSelectedFood().description);
         QCOMPARE(column(view, CalculatorLinesModel::AmountRole)[0], QString());
         QCOMPARE(view.totalText(), u"2 g"_s);
     }
@@ -179,7 +183,8 @@ private slots:
         CarbCounterUIView view;
         view.setPreview(Preview::Value(preview));
         QStringList order;
-        connect(env, &EnvironmentVariables::accompanimentsActiveChanged, this, [&] { order << u"accompaniments"_s; });
+        connect(env, &EnvironmentVariables::accompanimentsActiveChanged, this,
+                [&] { order << u"accompaniments"_s; });
         connect(env, &EnvironmentVariables::portionActiveChanged, this, [&] { order << u"portion"_s; });
         connect(env, &EnvironmentVariables::dismissFunctionChanged, this, [&] { order << u"dismiss"_s; });
         connect(env, &EnvironmentVariables::searchActiveChanged, this, [&] { order << u"search"_s; });

@@ -1,8 +1,8 @@
 #include "EnvironmentVariables.h"
 #include "ExampleData.h"
 #include "Look.h"
-#include "StdoutCapture.h"
 #include "nutrika/Nutrika.h"
+#include "StdoutCapture.h"
 
 #include <QApplication>
 #include <QQmlComponent>
@@ -157,7 +157,8 @@ private slots:
         QWidget *container = nullptr;
         QStringList calls;
         QSignalSpy installed(EnvironmentVariables::shared(), &EnvironmentVariables::dismissFunctionChanged);
-        container = initNutrika(u"key"_s, [&] { calls << (container->isVisible() ? u"host, shown"_s : u"host, hidden"_s); });
+        container = initNutrika(
+            u"key"_s, [&] { calls << (container->isVisible() ? u"host, shown"_s : u"host, hidden"_s); });
         std::unique_ptr<QWidget> owner(container);
         container->show();
         QVERIFY(QTest::qWaitForWindowExposed(container));

@@ -3,10 +3,10 @@
 #include "NamedColors.h"
 #include "SymbolIcons.h"
 
+#include <cmath>
 #include <QFontInfo>
 #include <QRawFont>
 #include <QTest>
-#include <cmath>
 
 using namespace nutrika;
 using namespace Qt::Literals::StringLiterals;
@@ -16,8 +16,11 @@ namespace {
 
 double luminance(const QColor &color)
 {
-    const auto channel = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
-    return 0.2126 * channel(color.redF()) + 0.7152 * channel(color.greenF()) + 0.0722 * channel(color.blueF());
+    const auto channel = [](double c) {
+        return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * channel(color.redF()) + 0.7152 * channel(color.greenF()) +
+           0.0722 * channel(color.blueF());
 }
 
 double contrast(const QColor &a, const QColor &b)
@@ -93,8 +96,9 @@ private slots:
     void everySymbolHasAGlyphInTheIconFont_data()
     {
         QTest::addColumn<QString>("symbol");
-        for (const char *name : {"chevron.left", "chevron.right", "chevron.down", "xmark", "xmark.circle",
-                                 "magnifyingglass", "arrow.2.circlepath", "plus.circle.fill", "minus.circle.fill"})
+        for (const char *name :
+             {"chevron.left", "chevron.right", "chevron.down", "xmark", "xmark.circle", "magnifyingglass",
+              "arrow.2.circlepath", "plus.circle.fill", "minus.circle.fill"})
             QTest::newRow(name) << QString::fromLatin1(name);
     }
 
@@ -117,8 +121,8 @@ private slots:
         for (const QFont &font : {look.azoSans(), look.arial()}) {
             QCOMPARE(font.pixelSize(), 15);
             const QString family = QFontInfo(font).family();
-            QVERIFY2(family == u"Liberation Sans"_s || family == u"DejaVu Sans"_s || family.contains(u"Azo"_s)
-                         || family.compare(u"arial"_s, Qt::CaseInsensitive) == 0,
+            QVERIFY2(family == u"Liberation Sans"_s || family == u"DejaVu Sans"_s ||
+                         family.contains(u"Azo"_s) || family.compare(u"arial"_s, Qt::CaseInsensitive) == 0,
                      qPrintable(family));
         }
     }
@@ -133,8 +137,8 @@ private slots:
         QTest::newRow("bottom, leading, trailing")
             << r << 1.0 << Edges{EdgeBorder::Bottom, EdgeBorder::Leading, EdgeBorder::Trailing}
             << QList<QRectF>{{0, 39, 100, 1}, {0, 0, 1, 40}, {99, 0, 1, 40}};
-        QTest::newRow("top, offset rect") << QRectF(10, 20, 50, 30) << 2.0 << Edges{EdgeBorder::Top}
-                                          << QList<QRectF>{{10, 20, 50, 2}};
+        QTest::newRow("top, offset rect")
+            << QRectF(10, 20, 50, 30) << 2.0 << Edges{EdgeBorder::Top} << QList<QRectF>{{10, 20, 50, 2}};
         QTest::newRow("repeated edge") << r << 2.0 << Edges{EdgeBorder::Bottom, EdgeBorder::Bottom}
                                        << QList<QRectF>{{0, 38, 100, 2}, {0, 38, 100, 2}};
         QTest::newRow("no edges") << r << 1.0 << Edges{} << QList<QRectF>{};

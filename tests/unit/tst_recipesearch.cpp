@@ -28,7 +28,8 @@ private slots:
     void initTestCase()
     {
         StoreFixture::clear();
-        for (const QString &name : {u"Chicken Curry"_s, u"Rice with chicken"_s, u"Pancakes"_s, u"Curry Chicken Wrap"_s})
+        for (const QString &name :
+             {u"Chicken Curry"_s, u"Rice with chicken"_s, u"Pancakes"_s, u"Curry Chicken Wrap"_s})
             saveRecipe(RecipeItem{name, getRecipes().size(), {}, 1});
     }
 
@@ -51,8 +52,12 @@ private slots:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QStringList>("listed");
-        QTest::newRow("empty lists all") << QString() << QStringList{u"Chicken Curry"_s, u"Rice with chicken"_s, u"Pancakes"_s, u"Curry Chicken Wrap"_s, u"Porridge"_s};
-        QTest::newRow("capitalised word") << u"Chicken"_s << QStringList{u"Chicken Curry"_s, u"Curry Chicken Wrap"_s};
+        QTest::newRow("empty lists all")
+            << QString()
+            << QStringList{u"Chicken Curry"_s, u"Rice with chicken"_s, u"Pancakes"_s, u"Curry Chicken Wrap"_s,
+                           u"Porridge"_s};
+        QTest::newRow("capitalised word")
+            << u"Chicken"_s << QStringList{u"Chicken Curry"_s, u"Curry Chicken Wrap"_s};
         QTest::newRow("lower-case word") << u"chicken"_s << QStringList{u"Rice with chicken"_s};
         QTest::newRow("inside a word") << u"cake"_s << QStringList{u"Pancakes"_s};
         QTest::newRow("no match") << u"Soup"_s << QStringList();

@@ -68,12 +68,12 @@ private slots:
         QTest::addColumn<QStringList>("expected");
         QTest::addColumn<QByteArray>("updateLine");
         QTest::newRow("next id appends") << qint64(2) << QStringList{"0:A", "1:B", "2:New"} << QByteArray();
-        QTest::newRow("known id replaces in place") << qint64(1) << QStringList{"0:A", "1:New"}
-                                                    << QByteArray("Should update: 1");
-        QTest::newRow("unknown id changes nothing") << qint64(7) << QStringList{"0:A", "1:B"}
-                                                    << QByteArray("Should update: none");
-        QTest::newRow("never saved id changes nothing") << qint64(-1) << QStringList{"0:A", "1:B"}
-                                                        << QByteArray("Should update: none");
+        QTest::newRow("known id replaces in place")
+            << qint64(1) << QStringList{"0:A", "1:New"} << QByteArray("Should update: 1");
+        QTest::newRow("unknown id changes nothing")
+            << qint64(7) << QStringList{"0:A", "1:B"} << QByteArray("Should update: none");
+        QTest::newRow("never saved id changes nothing")
+            << qint64(-1) << QStringList{"0:A", "1:B"} << QByteArray("Should update: none");
     }
 
     void insertReplaceAndIgnore()
@@ -100,8 +100,10 @@ private slots:
 
     void linesRoundTripWithEveryField()
     {
-        RecipeItem recipe{QStringLiteral("Burger menu"), 0,
-                          {example::exampleTrackedNutrient2(), example::exampleDiaryRecipeItem1()}, 2};
+        RecipeItem recipe{QStringLiteral("Burger menu"),
+                          0,
+                          {example::exampleTrackedNutrient2(), example::exampleDiaryRecipeItem1()},
+                          2};
         saveRecipe(recipe);
         const RecipeItem stored = getRecipes().at(0);
         QCOMPARE(stored.toJson(), recipe.toJson());
@@ -125,11 +127,12 @@ private slots:
         QTest::newRow("id out of range") << QVariant(storedMealWith("id", 1e300)) << qint64(0) << one;
         QTest::newRow("id as text") << QVariant(storedMealWith("id", u"0"_s)) << qint64(0) << one;
         QTest::newRow("servings as text") << QVariant(storedMealWith("servings", u"2"_s)) << qint64(0) << one;
-        QTest::newRow("items missing a key") << QVariant(storedMealWith("items", QJsonArray{QJsonObject{{u"id"_s, 1}}}))
-                                             << qint64(0) << one;
+        QTest::newRow("items missing a key")
+            << QVariant(storedMealWith("items", QJsonArray{QJsonObject{{u"id"_s, 1}}})) << qint64(0) << one;
         QTest::newRow("text instead of bytes") << QVariant(QStringLiteral("[]")) << qint64(0) << one;
         QTest::newRow("a number instead of bytes") << QVariant(42) << qint64(1) << QStringList();
-        QTest::newRow("truncated document") << QVariant(storedMealWith("name", u"x"_s).chopped(3)) << qint64(0) << one;
+        QTest::newRow("truncated document")
+            << QVariant(storedMealWith("name", u"x"_s).chopped(3)) << qint64(0) << one;
     }
 
     void unreadableDocumentsReadAsEmpty()

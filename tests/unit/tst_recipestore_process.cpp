@@ -1,11 +1,11 @@
 #include "RecipeStore.h"
 #include "StoreFixture.h"
 
+#include <csignal>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QTest>
-#include <csignal>
 
 using namespace nutrika;
 
@@ -50,7 +50,8 @@ private slots:
 
             const QList<RecipeItem> recipes = getRecipes();
             // Saved meals are never lost, and every meal is one whole revision.
-            QVERIFY2(recipes.size() >= before && !recipes.isEmpty(), qPrintable(QString::number(recipes.size())));
+            QVERIFY2(recipes.size() >= before && !recipes.isEmpty(),
+                     qPrintable(QString::number(recipes.size())));
             for (qsizetype i = 0; i < recipes.size(); ++i) {
                 const auto match = name.match(recipes.at(i).name);
                 QVERIFY(match.hasMatch());

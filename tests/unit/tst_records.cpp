@@ -111,12 +111,15 @@ private slots:
         QTest::addColumn<int>("decoded");
         const QString invalid = QStringLiteral("Invalid number of keys found, expected one.");
         QTest::newRow("food") << QByteArray(R"({"food":{}})") << QString() << int(EntryType::Food);
-        QTest::newRow("food and unknown key") << QByteArray(R"({"food":{},"x":1})") << QString() << int(EntryType::Food);
-        QTest::newRow("recipe with content") << QByteArray(R"({"recipe":{"a":1}})") << QString() << int(EntryType::Recipe);
+        QTest::newRow("food and unknown key")
+            << QByteArray(R"({"food":{},"x":1})") << QString() << int(EntryType::Food);
+        QTest::newRow("recipe with content")
+            << QByteArray(R"({"recipe":{"a":1}})") << QString() << int(EntryType::Recipe);
         QTest::newRow("both") << QByteArray(R"({"food":{},"recipe":{}})") << invalid << -1;
         QTest::newRow("none") << QByteArray(R"({})") << invalid << -1;
         QTest::newRow("only unknown") << QByteArray(R"({"drink":{}})") << invalid << -1;
-        QTest::newRow("case value not an object") << QByteArray(R"({"food":[]})") << QStringLiteral("Expected an object for key \"food\".") << -1;
+        QTest::newRow("case value not an object")
+            << QByteArray(R"({"food":[]})") << QStringLiteral("Expected an object for key \"food\".") << -1;
     }
 
     void entryTypeDecoding()
@@ -149,13 +152,18 @@ private slots:
         QTest::newRow("nutrients not array") << "nutrients" << QJsonValue(QJsonObject()) << true;
         QTest::newRow("tracked missing") << "trackedNutrient" << missing << true;
         QTest::newRow("tracked null") << "trackedNutrient" << QJsonValue(QJsonValue::Null) << false;
-        QTest::newRow("tracked incomplete") << "trackedNutrient" << QJsonValue(QJsonObject{{u"name"_s, u"x"_s}}) << true;
+        QTest::newRow("tracked incomplete")
+            << "trackedNutrient" << QJsonValue(QJsonObject{{u"name"_s, u"x"_s}}) << true;
         QTest::newRow("portion missing") << "portion" << missing << false;
         QTest::newRow("portion broken") << "portion" << QJsonValue(QJsonObject()) << true;
         QTest::newRow("food missing") << "foodItem" << missing << false;
         QTest::newRow("food branded as text") << "foodItem"
-            << QJsonValue(QJsonObject{{u"description"_s, u"a"_s}, {u"id"_s, 1}, {u"_id"_s, 1}, {u"brand"_s, u""_s}, {u"isBranded"_s, u"true"_s}})
-            << true;
+                                              << QJsonValue(QJsonObject{{u"description"_s, u"a"_s},
+                                                                        {u"id"_s, 1},
+                                                                        {u"_id"_s, 1},
+                                                                        {u"brand"_s, u""_s},
+                                                                        {u"isBranded"_s, u"true"_s}})
+                                              << true;
     }
 
     void entryDecodingFailures()
@@ -193,7 +201,8 @@ private slots:
 
     void sharedLineAnnouncesChangesToEveryHolder()
     {
-        const DiaryEntryPtr line = DiaryEntryPtr::create(123, basePortionItem(), example::exampleSelectedFood());
+        const DiaryEntryPtr line =
+            DiaryEntryPtr::create(123, basePortionItem(), example::exampleSelectedFood());
         const QList<DiaryEntryPtr> calculator{line};
         const QList<DiaryEntryPtr> meal{line};
         QSignalSpy quantity(calculator.at(0).get(), &DiaryEntry::quantityChanged);

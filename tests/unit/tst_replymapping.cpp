@@ -25,9 +25,10 @@ QStringList describe(const QList<FoodItem> &foods)
 {
     QStringList out;
     for (const FoodItem &food : foods)
-        out << u"%1 #%2/%3 %4 %5"_s.arg(food.description).arg(food.id).arg(food._id).arg(food.brand,
-                                                                                     food.isBranded ? u"branded"_s
-                                                                                                    : u"generic"_s);
+        out << u"%1 #%2/%3 %4 %5"_s.arg(food.description)
+                   .arg(food.id)
+                   .arg(food._id)
+                   .arg(food.brand, food.isBranded ? u"branded"_s : u"generic"_s);
     return out;
 }
 
@@ -83,8 +84,8 @@ private slots:
         const auto *page = std::get_if<FoodSearchPage>(&result);
         QVERIFY(page);
         QCOMPARE(page->count, 1203);
-        QCOMPARE(describe(page->generic), QStringList({u"Bananas, raw #9040/9040  generic"_s,
-                                                       u"Plantain #9/9  generic"_s}));
+        QCOMPARE(describe(page->generic),
+                 QStringList({u"Bananas, raw #9040/9040  generic"_s, u"Plantain #9/9  generic"_s}));
         QCOMPARE(describe(page->branded),
                  QStringList({u"Banana Chips #7/7 Acme branded"_s, u"Banana Bread #8/8 Bakery branded"_s,
                               u"Banana Split #10/10 Diner branded"_s}));
@@ -102,7 +103,8 @@ private slots:
         QTest::addColumn<ServiceReply>("reply");
         QTest::addColumn<ServiceFailure>("failure");
         const auto server = ServiceFailure::ServerError;
-        QTest::newRow("no response") << ServiceReply::classify(std::nullopt, {}) << ServiceFailure::ConnectionFailure;
+        QTest::newRow("no response") << ServiceReply::classify(std::nullopt, {})
+                                     << ServiceFailure::ConnectionFailure;
         QTest::newRow("404") << ServiceReply::classify(404, R"({"count":0,"results":[]})") << server;
         QTest::newRow("not JSON") << ok("<html>oops</html>") << server;
         QTest::newRow("truncated") << ok(R"({"count":1,"results":[{"id":1,)") << server;
@@ -133,14 +135,14 @@ private slots:
         QTest::addColumn<QByteArray>("body");
         QTest::addColumn<QStringList>("brands");
         QTest::addColumn<QStringList>("categories");
-        QTest::newRow("text and label") << QByteArray(R"({"brands":["Acme",{"label":"Acme","id":3}],
+        QTest::newRow("text and label")
+            << QByteArray(R"({"brands":["Acme",{"label":"Acme","id":3}],
                                                          "categories":[{"label":"Fruits"},"Fruits"," Nuts "]})")
-                                        << QStringList{u"Acme"_s, u"Acme"_s}
-                                        << QStringList{u"Fruits"_s, u"Fruits"_s, u" Nuts "_s};
+            << QStringList{u"Acme"_s, u"Acme"_s} << QStringList{u"Fruits"_s, u"Fruits"_s, u" Nuts "_s};
         QTest::newRow("no brands") << QByteArray(R"({"categories":["Fruits"]})") << QStringList()
                                    << QStringList{u"Fruits"_s};
-        QTest::newRow("null and not arrays") << QByteArray(R"({"brands":null,"categories":"Fruits"})")
-                                             << QStringList() << QStringList();
+        QTest::newRow("null and not arrays")
+            << QByteArray(R"({"brands":null,"categories":"Fruits"})") << QStringList() << QStringList();
     }
 
     void mapsFilterOptions()
@@ -168,7 +170,8 @@ private slots:
     void failsUnusableFilterOptions()
     {
         QFETCH(QByteArray, body);
-        QVERIFY(std::holds_alternative<ServiceFailure>(mapFilterOptionsReply(ServiceReply::classify(200, body))));
+        QVERIFY(
+            std::holds_alternative<ServiceFailure>(mapFilterOptionsReply(ServiceReply::classify(200, body))));
     }
 
     void mapsPortions_data()
@@ -177,9 +180,11 @@ private slots:
         QTest::addColumn<QStringList>("portions");
         QTest::newRow("complete") << portionJson(R"(,"is_default":true,"extra":"x")")
                                   << QStringList{u"1 #11/11 118 g medium banana.png default 1"_s};
-        QTest::newRow("no is_default") << portionJson("") << QStringList{u"1 #11/11 118 g medium banana.png unknown 1"_s};
-        QTest::newRow("is_default not a boolean") << portionJson(R"(,"is_default":1)")
-                                                  << QStringList{u"1 #11/11 118 g medium banana.png unknown 1"_s};
+        QTest::newRow("no is_default")
+            << portionJson("") << QStringList{u"1 #11/11 118 g medium banana.png unknown 1"_s};
+        QTest::newRow("is_default not a boolean")
+            << portionJson(R"(,"is_default":1)")
+            << QStringList{u"1 #11/11 118 g medium banana.png unknown 1"_s};
         QTest::newRow("fractions cut toward zero, booleans as numbers")
             << portionJson(R"(,"size":-2.9,"order_num":true,"is_default":false)")
             << QStringList{u"1 #11/11 -2 g medium banana.png not default 1"_s};
@@ -202,8 +207,8 @@ private slots:
         QFETCH(QStringList, portions);
         // The element is framed by two complete ones, which must survive whatever happens to it.
         const QByteArray good = portionJson(R"(,"id":2,"image_name":"")");
-        const auto result = mapPortionsReply(ServiceReply::classify(200, "{\"portions\":[" + good + "," + element +
-                                                                           "," + good + "]}"));
+        const auto result = mapPortionsReply(
+            ServiceReply::classify(200, "{\"portions\":[" + good + "," + element + "," + good + "]}"));
         const auto *list = std::get_if<QList<PortionItem>>(&result);
         QVERIFY(list);
         const QString neighbour = u"1 #2/2 118 g medium  unknown 1"_s;
@@ -215,7 +220,8 @@ private slots:
         QTest::addColumn<ServiceReply>("reply");
         QTest::addColumn<ServiceFailure>("failure");
         const auto server = ServiceFailure::ServerError;
-        QTest::newRow("no response") << ServiceReply::classify(std::nullopt, {}) << ServiceFailure::ConnectionFailure;
+        QTest::newRow("no response") << ServiceReply::classify(std::nullopt, {})
+                                     << ServiceFailure::ConnectionFailure;
         QTest::newRow("500") << ServiceReply::classify(500, R"({"portions":[]})") << server;
         QTest::newRow("not JSON") << ok("") << server;
         QTest::newRow("no portions") << ok(R"({"items":[]})") << server;
@@ -246,19 +252,20 @@ private slots:
             << "{\"macronutrients\":[" + nutrient("Carbohydrates", "1") + "],\"micronutrients\":[" +
                    nutrient("Carbohydrates", "2") + "]}"
             << QStringList() << u"Carbohydrates 2 g dp1"_s;
-        QTest::newRow("lower case is listed") << "{\"macronutrients\":[" + nutrient("carbohydrates", "3") + "]}"
-                                              << QStringList{u"carbohydrates 3 g dp1"_s} << QString();
+        QTest::newRow("lower case is listed")
+            << "{\"macronutrients\":[" + nutrient("carbohydrates", "3") + "]}"
+            << QStringList{u"carbohydrates 3 g dp1"_s} << QString();
         QTest::newRow("neither array") << QByteArray("{}") << QStringList() << QString();
         QTest::newRow("values read leniently")
             << "{\"micronutrients\":[" + nutrient("A", "\"12.5\"") + "," + nutrient("B", "true") + "," +
-                   nutrient("C", "false") + "," + nutrient("D", "null") + "," + nutrient("E", "\"lots\"") + "," +
-                   nutrient("F", QByteArray()) + "," + nutrient("G", "[1]") + "]}"
+                   nutrient("C", "false") + "," + nutrient("D", "null") + "," + nutrient("E", "\"lots\"") +
+                   "," + nutrient("F", QByteArray()) + "," + nutrient("G", "[1]") + "]}"
             << QStringList{u"A 12.5 g dp1"_s, u"B 1 g dp1"_s, u"C 0 g dp1"_s, u"D 0 g dp1"_s,
-                           u"E 0 g dp1"_s, u"F 0 g dp1"_s, u"G 0 g dp1"_s}
+                           u"E 0 g dp1"_s,    u"F 0 g dp1"_s, u"G 0 g dp1"_s}
             << QString();
         QTest::newRow("incomplete elements skipped")
-            << "{\"macronutrients\":[" + nutrient("NoUnits", "1", "null") + ",{\"amount\":{\"units\":\"g\"}},7," +
-                   nutrient("Fibre", "2.6") + "]}"
+            << "{\"macronutrients\":[" + nutrient("NoUnits", "1", "null") +
+                   ",{\"amount\":{\"units\":\"g\"}},7," + nutrient("Fibre", "2.6") + "]}"
             << QStringList{u"Fibre 2.6 g dp1"_s} << QString();
     }
 
@@ -306,8 +313,8 @@ private slots:
             << QStringList{u"Milk #1/1  generic"_s, u"Honey #2/2 Bee branded"_s, u"Oats #5/5  generic"_s,
                            u"Jam #6/6 J branded"_s};
         QTest::newRow("empty") << ok("[]") << QStringList();
-        QTest::newRow("object at the top") << ok(R"({"id":1,"description":"Milk","food_brand":"","is_generic_item":1})")
-                                           << QStringList();
+        QTest::newRow("object at the top")
+            << ok(R"({"id":1,"description":"Milk","food_brand":"","is_generic_item":1})") << QStringList();
     }
 
     void mapsAccompanyingFoods()
@@ -347,7 +354,8 @@ private slots:
         QTest::addColumn<QSize>("size");
         QTest::newRow("png") << std::optional(200) << png << QSize(3, 2);
         QTest::newRow("png with 404, status ignored") << std::optional(404) << png << QSize(3, 2);
-        QTest::newRow("html") << std::optional(404) << QByteArray("<html><body>Not found</body></html>") << QSize();
+        QTest::newRow("html") << std::optional(404) << QByteArray("<html><body>Not found</body></html>")
+                              << QSize();
         QTest::newRow("empty") << std::optional(200) << QByteArray() << QSize();
         QTest::newRow("no response") << std::optional<int>() << png << QSize();
     }

@@ -27,15 +27,18 @@ private slots:
         QTest::newRow("none") << QueryParameters{} << QByteArray();
         QTest::newRow("keys ascending") << QueryParameters{{u"search"_s, u"a"_s}, {u"limit"_s, u"50"_s}}
                                         << QByteArray("limit=50&search=a");
-        QTest::newRow("empty value") << QueryParameters{{u"food_brand"_s, QString()}} << QByteArray("food_brand=");
+        QTest::newRow("empty value") << QueryParameters{{u"food_brand"_s, QString()}}
+                                     << QByteArray("food_brand=");
         QTest::newRow("space and accent") << QueryParameters{{u"search"_s, u" crème brûlée"_s}}
                                           << QByteArray("search=%20cr%C3%A8me%20br%C3%BBl%C3%A9e");
         QTest::newRow("delimiters") << QueryParameters{{u"q"_s, u"a&b=c+d#e%f"_s}}
                                     << QByteArray("q=a%26b%3Dc%2Bd%23e%25f");
-        QTest::newRow("kept as is") << QueryParameters{{u"q"_s, u"Az09-._~/?"_s}} << QByteArray("q=Az09-._~/?");
-        QTest::newRow("sub-delimiters escaped") << QueryParameters{{u"q"_s, u"!*'(),;:@$"_s}}
-                                                << QByteArray("q=%21%2A%27%28%29%2C%3B%3A%40%24");
-        QTest::newRow("four-byte character") << QueryParameters{{u"q"_s, u"🍌"_s}} << QByteArray("q=%F0%9F%8D%8C");
+        QTest::newRow("kept as is") << QueryParameters{{u"q"_s, u"Az09-._~/?"_s}}
+                                    << QByteArray("q=Az09-._~/?");
+        QTest::newRow("sub-delimiters escaped")
+            << QueryParameters{{u"q"_s, u"!*'(),;:@$"_s}} << QByteArray("q=%21%2A%27%28%29%2C%3B%3A%40%24");
+        QTest::newRow("four-byte character")
+            << QueryParameters{{u"q"_s, u"🍌"_s}} << QByteArray("q=%F0%9F%8D%8C");
         QTest::newRow("key escaped too") << QueryParameters{{u"a b"_s, u"1"_s}} << QByteArray("a%20b=1");
     }
 
@@ -51,15 +54,17 @@ private slots:
         QTest::addColumn<QString>("path");
         QTest::addColumn<QString>("expected");
         QTest::newRow("search") << foodSearchPath() << u"/api/v1/healthcare//food"_s;
-        QTest::newRow("filters") << filterOptionsPath() << u"/api/v1/healthcare//food/brands_and_categories"_s;
+        QTest::newRow("filters") << filterOptionsPath()
+                                 << u"/api/v1/healthcare//food/brands_and_categories"_s;
         QTest::newRow("portions") << portionsPath(9040) << u"/api/v1/healthcare//food/9040"_s;
         QTest::newRow("negative id") << portionsPath(-1) << u"/api/v1/healthcare//food/-1"_s;
         QTest::newRow("nutrients") << nutrientsPath(42) << u"/api/v1/healthcare//food/42/get_nutrients"_s;
-        QTest::newRow("accompanying") << accompanyingFoodsPath(7)
-                                      << u"/api/v1/healthcare//food/7/accompanying_food_items"_s;
+        QTest::newRow("accompanying")
+            << accompanyingFoodsPath(7) << u"/api/v1/healthcare//food/7/accompanying_food_items"_s;
         QTest::newRow("picture") << portionImagePath(512) << u"/api/v1/healthcare//food_portion_images/512"_s;
-        QTest::newRow("thumbnail") << portionThumbnailPath(512)
-                                   << u"/api/v1/healthcare//food_portion_images/512?width=200&height=200&type=thumbnail"_s;
+        QTest::newRow("thumbnail")
+            << portionThumbnailPath(512)
+            << u"/api/v1/healthcare//food_portion_images/512?width=200&height=200&type=thumbnail"_s;
     }
 
     void buildsPathsWithTheDoubleSlash()
@@ -78,12 +83,14 @@ private slots:
             << QByteArray("food_brand=&food_category=&limit=50&offset=0&search=apple%20pie");
         QTest::newRow("third page, filtered")
             << foodSearchParameters({u"x"_s, 100, u"Kellogg's"_s, u"Cereal & Grains"_s})
-            << QByteArray("food_brand=Kellogg%27s&food_category=Cereal%20%26%20Grains&limit=50&offset=100&search=x");
-        QTest::newRow("filter options") << filterOptionsParameters(u" tea"_s)
-                                        << QByteArray("limit=100&offset=0&search=%20tea");
+            << QByteArray(
+                   "food_brand=Kellogg%27s&food_category=Cereal%20%26%20Grains&limit=50&offset=100&search=x");
+        QTest::newRow("filter options")
+            << filterOptionsParameters(u" tea"_s) << QByteArray("limit=100&offset=0&search=%20tea");
         PortionItem portion = basePortionItem();
         portion.size = 30;
-        QTest::newRow("nutrients") << nutrientsParameters(portion) << QByteArray("amount_unit=grams&amount_value=30");
+        QTest::newRow("nutrients") << nutrientsParameters(portion)
+                                   << QByteArray("amount_unit=grams&amount_value=30");
     }
 
     void buildsParameters()
@@ -118,7 +125,8 @@ private slots:
         QTest::addColumn<ServiceReply::Outcome>("outcome");
         QTest::addColumn<bool>("isJson");
         using Outcome = ServiceReply::Outcome;
-        QTest::newRow("no response") << std::optional<int>() << QByteArray() << Outcome::ConnectionFailure << false;
+        QTest::newRow("no response") << std::optional<int>() << QByteArray() << Outcome::ConnectionFailure
+                                     << false;
         QTest::newRow("200") << std::optional(200) << QByteArray("{}") << Outcome::Body << true;
         QTest::newRow("399 is a success") << std::optional(399) << QByteArray("[]") << Outcome::Body << true;
         QTest::newRow("400") << std::optional(400) << QByteArray("{}") << Outcome::ServerError << false;

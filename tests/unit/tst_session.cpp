@@ -47,8 +47,8 @@ private slots:
         using Write = SessionWrite;
         QTest::newRow("dismissFunction") << QByteArray(SIGNAL(dismissFunctionChanged()))
                                          << Write([](auto *e) { e->setDismissFunction([] {}); });
-        QTest::newRow("searchActive") << QByteArray(SIGNAL(searchActiveChanged()))
-                                      << Write([](auto *e) { e->setSearchActive(false); });
+        QTest::newRow("searchActive")
+            << QByteArray(SIGNAL(searchActiveChanged())) << Write([](auto *e) { e->setSearchActive(false); });
         QTest::newRow("recipeSearchActive") << QByteArray(SIGNAL(recipeSearchActiveChanged()))
                                             << Write([](auto *e) { e->setRecipeSearchActive(true); });
         QTest::newRow("portionActive") << QByteArray(SIGNAL(portionActiveChanged()))

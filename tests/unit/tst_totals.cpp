@@ -12,8 +12,8 @@ DiaryEntryPtr foodLine(qint64 quantity, std::optional<double> carbs)
     std::optional<NutrientValue> tracked;
     if (carbs)
         tracked = NutrientValue{COUNTER_TYPE, QStringLiteral("grams"), *carbs, 1};
-    return DiaryEntryPtr::create(123, basePortionItem(), example::exampleSelectedFood(), quantity, std::nullopt,
-                                 tracked);
+    return DiaryEntryPtr::create(123, basePortionItem(), example::exampleSelectedFood(), quantity,
+                                 std::nullopt, tracked);
 }
 
 DiaryEntryPtr mealLine(qint64 quantity, const QList<DiaryEntryPtr> &items, qint64 servings)
@@ -56,10 +56,13 @@ private slots:
         emptied->setRecipeItem(std::nullopt);
         QTest::newRow("meal line without its meal") << emptied << 0.0;
         QTest::newRow("meal of 2 servings") << mealLine(1, {foodLine(3, 4.25)}, 2) << 6.4;
-        QTest::newRow("meal twice: rounded per serving, then again") << mealLine(2, {foodLine(1, 0.33), foodLine(1, 0.33)}, 3) << 0.4;
+        QTest::newRow("meal twice: rounded per serving, then again")
+            << mealLine(2, {foodLine(1, 0.33), foodLine(1, 0.33)}, 3) << 0.4;
         QTest::newRow("meal with 0 servings counts as one") << mealLine(1, {foodLine(2, 5.0)}, 0) << 10.0;
         QTest::newRow("empty meal") << mealLine(5, {}, 1) << 0.0;
-        QTest::newRow("meal of meals") << mealLine(1, {mealLine(3, {foodLine(1, 10.0)}, 4), mealLine(1, {foodLine(1, 1.25)}, 1)}, 2) << 4.4;
+        QTest::newRow("meal of meals")
+            << mealLine(1, {mealLine(3, {foodLine(1, 10.0)}, 4), mealLine(1, {foodLine(1, 1.25)}, 1)}, 2)
+            << 4.4;
     }
 
     void lineAmounts()

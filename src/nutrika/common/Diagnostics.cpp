@@ -1,7 +1,7 @@
 #include "Diagnostics.h"
 
-#include <QString>
 #include <cstdio>
+#include <QString>
 
 namespace nutrika {
 

@@ -6,10 +6,7 @@
 
 namespace nutrika {
 
-MainViewController::MainViewController(QWidget *parent, Qt::WindowFlags flags)
-    : QWidget(parent, flags)
-{
-}
+MainViewController::MainViewController(QWidget *parent, Qt::WindowFlags flags) : QWidget(parent, flags) {}
 
 void MainViewController::viewDidLoad()
 {

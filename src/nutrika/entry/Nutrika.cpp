@@ -44,7 +44,8 @@ QWidget *initNutrika(const QString &apiKey, std::function<void()> onDismissCallb
     prepareNutrikaEngine(*view->engine());
     const QUrl root(u"qrc:/qt/qml/Nutrika/entry/NutrikaRoot.qml"_s);
     auto *component = new QQmlComponent(view->engine(), root, view);
-    QObject *item = component->createWithInitialProperties({{u"calculator"_s, QVariant::fromValue(calculator)}});
+    QObject *item =
+        component->createWithInitialProperties({{u"calculator"_s, QVariant::fromValue(calculator)}});
     if (!item)
         qCritical("Nutrika: the calculator could not be built: %s", qPrintable(component->errorString()));
     view->setContent(root, component, item);

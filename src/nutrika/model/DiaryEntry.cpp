@@ -10,9 +10,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace nutrika {
 
-DiaryEntry::DiaryEntry(qint64 id, entryType type)
-    : m_id(id)
-    , m_type(type)
+DiaryEntry::DiaryEntry(qint64 id, entryType type) : m_id(id), m_type(type)
 {
     // Lines are owned by the C++ lists; QML only borrows them.
     QJSEngine::setObjectOwnership(this, QJSEngine::CppOwnership);
@@ -34,7 +32,8 @@ DiaryEntry::DiaryEntry(qint64 id, const RecipeItem &recipe, qint64 quantity)
 }
 
 DiaryEntry::DiaryEntry(qint64 id, const PortionItem &portion, const FoodItem &food, qint64 quantity,
-                       std::optional<QList<NutrientValue>> nutrients, std::optional<NutrientValue> trackedNutrient)
+                       std::optional<QList<NutrientValue>> nutrients,
+                       std::optional<NutrientValue> trackedNutrient)
     : DiaryEntry(id, portion, food)
 {
     m_quantity = quantity;
@@ -66,7 +65,8 @@ void DiaryEntry::watchRecipeLines()
         return;
     for (const DiaryEntryPtr &line : std::as_const(m_recipeItem->items)) {
         if (line && line.data() != this)
-            m_recipeLineWatches.append(connect(line.data(), &DiaryEntry::totalChanged, this, &DiaryEntry::totalChanged));
+            m_recipeLineWatches.append(
+                connect(line.data(), &DiaryEntry::totalChanged, this, &DiaryEntry::totalChanged));
     }
 }
 
@@ -117,7 +117,7 @@ entryType typeFromJson(const QJsonValue &value)
     const bool food = o.contains(u"food");
     const bool recipe = o.contains(u"recipe");
     if (food == recipe)
-        throw JsonDecodeError(QStringLiteral("Invalid number of keys found, expected one."));
+        throw JsonDecodeError(u"Invalid number of keys found, expected one."_s);
     const QStringView key = food ? u"food" : u"recipe";
     (void)json::object(o, key);
     return food ? EntryType::Food : EntryType::Recipe;
@@ -127,10 +127,11 @@ entryType typeFromJson(const QJsonValue &value)
 
 QJsonObject DiaryEntry::toJson() const
 {
-    QJsonObject o{{u"id"_s, m_id},
-                  {u"type"_s, QJsonObject{{m_type == EntryType::Food ? u"food"_s : u"recipe"_s, QJsonObject()}}},
-                  {u"quantity"_s, m_quantity},
-                  {u"trackedNutrient"_s, optionalToJson(m_trackedNutrient)}};
+    QJsonObject o{
+        {u"id"_s, m_id},
+        {u"type"_s, QJsonObject{{m_type == EntryType::Food ? u"food"_s : u"recipe"_s, QJsonObject()}}},
+        {u"quantity"_s, m_quantity},
+        {u"trackedNutrient"_s, optionalToJson(m_trackedNutrient)}};
     if (m_portion)
         o.insert(u"portion", m_portion->toJson());
     if (m_foodItem)

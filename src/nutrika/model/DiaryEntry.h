@@ -5,10 +5,10 @@
 #include "PortionItem.h"
 #include "RecipeItem.h"
 
+#include <optional>
 #include <QJsonObject>
 #include <QObject>
 #include <QtQmlIntegration>
-#include <optional>
 
 namespace nutrika {
 
@@ -16,7 +16,11 @@ namespace nutrika {
 namespace EntryType {
 Q_NAMESPACE
 QML_ELEMENT
-enum Value { Food, Recipe };
+enum Value
+{
+    Food,
+    Recipe
+};
 Q_ENUM_NS(Value)
 } // namespace EntryType
 using entryType = EntryType::Value;
@@ -61,7 +65,10 @@ public:
     [[nodiscard]] qint64 quantity() const { return m_quantity; }
     void setQuantity(qint64 quantity);
     [[nodiscard]] const std::optional<QList<NutrientValue>> &nutrients() const { return m_nutrients; }
-    [[nodiscard]] QList<NutrientValue> nutrientList() const { return m_nutrients.value_or(QList<NutrientValue>()); }
+    [[nodiscard]] QList<NutrientValue> nutrientList() const
+    {
+        return m_nutrients.value_or(QList<NutrientValue>());
+    }
     void setNutrients(const std::optional<QList<NutrientValue>> &nutrients);
     [[nodiscard]] const std::optional<NutrientValue> &trackedNutrient() const { return m_trackedNutrient; }
     [[nodiscard]] bool hasTrackedNutrient() const { return m_trackedNutrient.has_value(); }

@@ -1,5 +1,7 @@
 #include "ExampleData.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace nutrika::example {
 
 namespace {
@@ -10,7 +12,7 @@ NutrientValue nutrient(const char *name, const char *unit, double value, qint64 
 
 FoodItem sampleFood(const char *description)
 {
-    return {QString::fromUtf8(description), 999999, 999999, QStringLiteral("Morning Mill"), true};
+    return {QString::fromUtf8(description), 999999, 999999, u"Morning Mill"_s, true};
 }
 
 PortionItem samplePortion(qint64 id, qint64 size, const char *imageName, const char *description)
@@ -33,8 +35,10 @@ const PortionItem &examplePortionItem()
 const QList<PortionItem> &examplePortions()
 {
     static const QList<PortionItem> portions{
-        samplePortion(1, 30, "bowl-small", "small bowl"), samplePortion(2, 45, "bowl-medium", "medium bowl"),
-        samplePortion(3, 60, "bowl-large", "large bowl"), samplePortion(4, 15, "", "tablespoon"),
+        samplePortion(1, 30, "bowl-small", "small bowl"),
+        samplePortion(2, 45, "bowl-medium", "medium bowl"),
+        samplePortion(3, 60, "bowl-large", "large bowl"),
+        samplePortion(4, 15, "", "tablespoon"),
         samplePortion(5, 240, "", "cup"),
     };
     return portions;
@@ -65,8 +69,8 @@ const NutrientValue &exampleNutrientFibre() { static const auto n = nutrient("Fi
 
 const QList<NutrientValue> &exampleNutrientsWithoutCarb()
 {
-    static const QList<NutrientValue> list{exampleNutrientCalories(),   exampleNutrientProtein(),
-                                           exampleNutrientFat(),        exampleNutrientSatFat(),
+    static const QList<NutrientValue> list{exampleNutrientCalories(),    exampleNutrientProtein(),
+                                           exampleNutrientFat(),         exampleNutrientSatFat(),
                                            exampleNutrientTotalSugars(), exampleNutrientSalt(),
                                            exampleNutrientFibre()};
     return list;
@@ -94,13 +98,13 @@ const QList<DiaryEntryPtr> &exampleCarbList()
 
 const RecipeItem &exampleRecipe()
 {
-    static const RecipeItem recipe{QStringLiteral("Cheeseburger"), 123, exampleCarbList(), 1};
+    static const RecipeItem recipe{u"Cheeseburger"_s, 123, exampleCarbList(), 1};
     return recipe;
 }
 
 const RecipeItem &exampleRecipe2()
 {
-    static const RecipeItem recipe{QStringLiteral("Half A Burger"), 123, exampleCarbList(), 2};
+    static const RecipeItem recipe{u"Half A Burger"_s, 123, exampleCarbList(), 2};
     return recipe;
 }
 

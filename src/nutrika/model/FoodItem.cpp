@@ -8,7 +8,10 @@ namespace nutrika {
 
 QJsonObject FoodItem::toJson() const
 {
-    return {{u"description"_s, description}, {u"id"_s, id}, {u"_id"_s, _id}, {u"brand"_s, brand},
+    return {{u"description"_s, description},
+            {u"id"_s, id},
+            {u"_id"_s, _id},
+            {u"brand"_s, brand},
             {u"isBranded"_s, isBranded}};
 }
 

@@ -18,9 +18,9 @@ QString formatUnitShort(const QString &unit)
         QStringView shortForm;
     };
     static constexpr std::array table{
-        ShortForm{u"micrograms", u"µg"},  ShortForm{u"milligrams", u"mg"},   ShortForm{u"grams", u"g"},
-        ShortForm{u"kilograms", u"kg"},   ShortForm{u"millilitres", u"ml"},  ShortForm{u"centilitres", u"cl"},
-        ShortForm{u"litres", u"l"},       ShortForm{u"calories", u" kcal"},
+        ShortForm{u"micrograms", u"µg"}, ShortForm{u"milligrams", u"mg"},  ShortForm{u"grams", u"g"},
+        ShortForm{u"kilograms", u"kg"},  ShortForm{u"millilitres", u"ml"}, ShortForm{u"centilitres", u"cl"},
+        ShortForm{u"litres", u"l"},      ShortForm{u"calories", u" kcal"},
     };
     for (const ShortForm &row : table) {
         if (unit == row.name)
@@ -39,7 +39,8 @@ std::optional<double> parseNumber(const QString &text)
         bytes.remove(0, 1);
     // from_chars would also take "inf" and "nan", which are not numbers here.
     const qsizetype first = bytes.startsWith('-') ? 1 : 0;
-    if (bytes.size() <= first || !(std::isdigit(static_cast<unsigned char>(bytes[first])) || bytes[first] == '.'))
+    if (bytes.size() <= first ||
+        !(std::isdigit(static_cast<unsigned char>(bytes[first])) || bytes[first] == '.'))
         return std::nullopt;
     double value = 0;
     const char *end = bytes.constData() + bytes.size();
@@ -54,7 +55,8 @@ std::optional<double> parseNumber(const QString &text)
 QString formatValueWithUnits(const QString &value, const QString &unit, std::optional<int> decimalPlaces)
 {
     const QString shortUnit = formatUnitShort(unit);
-    const std::optional<double> number = decimalPlaces && *decimalPlaces >= 0 ? parseNumber(value) : std::nullopt;
+    const std::optional<double> number =
+        decimalPlaces && *decimalPlaces >= 0 ? parseNumber(value) : std::nullopt;
     if (!number)
         return value + shortUnit;
     // to_chars prints the exact decimal expansion, rounded as printf's %f does, without any locale.
@@ -72,7 +74,8 @@ QString shortestDecimalText(double value)
         return QString::number(value);
     // Fixed notation without a precision is the shortest text that round-trips, with no exponent.
     std::array<char, 400> buffer{};
-    const auto [ptr, ec] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed);
+    const auto [ptr, ec] =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed);
     QString text = QString::fromLatin1(buffer.data(), ec == std::errc() ? ptr - buffer.data() : 0);
     if (!text.contains(u'.'))
         text += u".0"_s;

@@ -1,9 +1,10 @@
 #include "JsonFields.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace nutrika {
 
-JsonDecodeError::JsonDecodeError(const QString &description)
-    : std::runtime_error(description.toStdString())
+JsonDecodeError::JsonDecodeError(const QString &description) : std::runtime_error(description.toStdString())
 {
 }
 
@@ -12,7 +13,7 @@ namespace {
 
 [[noreturn]] void mismatch(QStringView key, QStringView expected)
 {
-    throw JsonDecodeError(QStringLiteral("Expected %1 for key \"%2\".").arg(expected, key));
+    throw JsonDecodeError(u"Expected %1 for key \"%2\"."_s.arg(expected, key));
 }
 
 } // namespace
@@ -20,7 +21,7 @@ namespace {
 QJsonObject asObject(const QJsonValue &value, QStringView what)
 {
     if (!value.isObject())
-        throw JsonDecodeError(QStringLiteral("Expected an object for %1.").arg(what));
+        throw JsonDecodeError(u"Expected an object for %1."_s.arg(what));
     return value.toObject();
 }
 
@@ -28,7 +29,7 @@ QJsonValue required(const QJsonObject &object, QStringView key)
 {
     const auto it = object.constFind(key);
     if (it == object.constEnd())
-        throw JsonDecodeError(QStringLiteral("No value associated with key \"%1\".").arg(key));
+        throw JsonDecodeError(u"No value associated with key \"%1\"."_s.arg(key));
     return it.value();
 }
 

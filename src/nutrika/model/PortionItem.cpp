@@ -14,15 +14,17 @@ QString PortionItem::sizeText() const
 
 QJsonObject ConvertibleUnit::toJson() const
 {
-    return {{u"type"_s, type}, {u"is_base"_s, is_base}, {u"id"_s, id},
-            {u"to_base_conversion_rate"_s, to_base_conversion_rate}, {u"name"_s, name}, {u"unit"_s, unit}};
+    return {{u"type"_s, type}, {u"is_base"_s, is_base},
+            {u"id"_s, id},     {u"to_base_conversion_rate"_s, to_base_conversion_rate},
+            {u"name"_s, name}, {u"unit"_s, unit}};
 }
 
 ConvertibleUnit ConvertibleUnit::fromJson(const QJsonValue &value)
 {
     const QJsonObject o = json::asObject(value, u"ConvertibleUnit");
-    return {json::string(o, u"type"), json::integer(o, u"is_base"), json::integer(o, u"id"),
-            json::integer(o, u"to_base_conversion_rate"), json::string(o, u"name"), json::string(o, u"unit")};
+    return {json::string(o, u"type"), json::integer(o, u"is_base"),
+            json::integer(o, u"id"),  json::integer(o, u"to_base_conversion_rate"),
+            json::string(o, u"name"), json::string(o, u"unit")};
 }
 
 QJsonObject PortionItem::toJson() const
@@ -62,8 +64,16 @@ PortionItem PortionItem::fromJson(const QJsonValue &value)
 
 const PortionItem &basePortionItem()
 {
-    static const PortionItem base{123, -1, -1, QStringLiteral("grams"), 1233, 23, std::nullopt, QString(),
-                                  QStringLiteral("tablespoon, dry"), ConvertibleUnit{QString(), 123, 132, 342, QString(), QString()}};
+    static const PortionItem base{123,
+                                  -1,
+                                  -1,
+                                  u"grams"_s,
+                                  1233,
+                                  23,
+                                  std::nullopt,
+                                  QString(),
+                                  u"tablespoon, dry"_s,
+                                  ConvertibleUnit{QString(), 123, 132, 342, QString(), QString()}};
     return base;
 }
 

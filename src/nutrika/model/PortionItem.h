@@ -1,10 +1,10 @@
 #pragma once
 
+#include <optional>
 #include <QJsonObject>
 #include <QObject>
 #include <QString>
 #include <QtQmlIntegration>
-#include <optional>
 
 namespace nutrika {
 

@@ -6,10 +6,12 @@
 
 namespace nutrika {
 
+using namespace Qt::Literals::StringLiterals;
+
 class DiaryEntry;
 
 /// The nutrient the calculator counts.
-inline const QString COUNTER_TYPE = QStringLiteral("Carbohydrates");
+inline const QString COUNTER_TYPE = u"Carbohydrates"_s;
 
 /// Rounds to one decimal, halves away from zero (0.05 -> 0.1, 0.25 -> 0.3).
 [[nodiscard]] double round1(double value);

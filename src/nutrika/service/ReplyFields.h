@@ -1,9 +1,9 @@
 #pragma once
 
+#include <optional>
 #include <QJsonObject>
 #include <QJsonValue>
 #include <QString>
-#include <optional>
 
 namespace nutrika::lenient {
 

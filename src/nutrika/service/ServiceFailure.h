@@ -8,11 +8,14 @@
 namespace nutrika {
 
 /// Why a request gave no usable data. A body that is not the JSON expected counts as a server error.
-enum class ServiceFailure { ConnectionFailure, ServerError };
+enum class ServiceFailure
+{
+    ConnectionFailure,
+    ServerError
+};
 
 /// The mapped records of a reply, or why there are none.
-template <typename T>
-using ServiceResult = std::variant<T, ServiceFailure>;
+template <typename T> using ServiceResult = std::variant<T, ServiceFailure>;
 
 /// The alert a screen shows for a failure; the body is also the failure's diagnostic line.
 struct FailureMessage

@@ -2,8 +2,8 @@
 
 #include "FoodItem.h"
 
-#include <QJsonValue>
 #include <optional>
+#include <QJsonValue>
 
 namespace nutrika {
 

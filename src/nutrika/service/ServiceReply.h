@@ -1,15 +1,20 @@
 #pragma once
 
+#include <optional>
 #include <QByteArray>
 #include <QJsonDocument>
-#include <optional>
 
 namespace nutrika {
 
 /// A JSON reply of the food-data service, classified before its body is used.
 struct ServiceReply
 {
-    enum class Outcome { ConnectionFailure, ServerError, Body };
+    enum class Outcome
+    {
+        ConnectionFailure,
+        ServerError,
+        Body
+    };
 
     Outcome outcome = Outcome::ConnectionFailure;
     /// Absent when no HTTP response arrived.

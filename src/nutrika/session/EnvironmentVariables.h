@@ -5,10 +5,10 @@
 #include "RecipeList.h"
 #include "ServiceClient.h"
 
-#include <QObject>
-#include <QtQmlIntegration>
 #include <functional>
 #include <optional>
+#include <QObject>
+#include <QtQmlIntegration>
 
 class QQmlEngine;
 class QJSEngine;
@@ -29,7 +29,8 @@ class EnvironmentVariables : public QObject
     Q_PROPERTY(qint64 portionActive READ portionActive WRITE setPortionActive NOTIFY portionActiveChanged)
     Q_PROPERTY(bool accompanimentsActive READ accompanimentsActive WRITE setAccompanimentsActive NOTIFY
                    accompanimentsActiveChanged)
-    Q_PROPERTY(bool editRecipeActive READ editRecipeActive WRITE setEditRecipeActive NOTIFY editRecipeActiveChanged)
+    Q_PROPERTY(
+        bool editRecipeActive READ editRecipeActive WRITE setEditRecipeActive NOTIFY editRecipeActiveChanged)
     Q_PROPERTY(nutrika::RecipeList *recipeList READ recipeList NOTIFY recipeListChanged)
     /// The one client of the food-data service; screens pass it to every request.
     Q_PROPERTY(nutrika::ServiceClient *serviceClient READ serviceClient CONSTANT)
@@ -68,7 +69,10 @@ public:
     /// Replaces the saved-meal list; the session takes ownership.
     void setRecipeList(RecipeList *list);
 
-    [[nodiscard]] const QList<DiaryEntryPtr> &TrackedNutrientListItems() const { return m_trackedNutrientListItems; }
+    [[nodiscard]] const QList<DiaryEntryPtr> &TrackedNutrientListItems() const
+    {
+        return m_trackedNutrientListItems;
+    }
     void setTrackedNutrientListItems(const QList<DiaryEntryPtr> &lines);
     [[nodiscard]] const QList<DiaryEntryPtr> &CurrentRecipeItems() const { return m_currentRecipeItems; }
     void setCurrentRecipeItems(const QList<DiaryEntryPtr> &lines);

@@ -2,6 +2,8 @@
 
 #include <QDataStream>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace nutrika {
 
 namespace {
@@ -31,14 +33,13 @@ bool writePreferences(QIODevice &device, const QSettings::SettingsMap &map)
 QSettings::Format preferencesFormat()
 {
     static const QSettings::Format format =
-        QSettings::registerFormat(QStringLiteral("prefs"), readPreferences, writePreferences);
+        QSettings::registerFormat(u"prefs"_s, readPreferences, writePreferences);
     return format;
 }
 
 } // namespace
 
-Preferences::Preferences()
-    : QSettings(preferencesFormat(), QSettings::UserScope, QStringLiteral("Nutrika"), QStringLiteral("nutrika"))
+Preferences::Preferences() : QSettings(preferencesFormat(), QSettings::UserScope, u"Nutrika"_s, u"nutrika"_s)
 {
 }
 

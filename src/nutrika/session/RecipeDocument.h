@@ -2,9 +2,9 @@
 
 #include "RecipeItem.h"
 
+#include <optional>
 #include <QByteArray>
 #include <QList>
-#include <optional>
 
 namespace nutrika {
 
@@ -18,6 +18,7 @@ namespace nutrika {
 /// Replaces the meal at `index` of a document that decoded to a non-empty list with the encoded `meal`,
 /// or appends it when `index` is the number of meals. The other meals keep their bytes, so a save does
 /// not re-encode the whole list.
-[[nodiscard]] QByteArray spliceRecipeDocument(const QByteArray &document, qsizetype index, const QByteArray &meal);
+[[nodiscard]] QByteArray spliceRecipeDocument(const QByteArray &document, qsizetype index,
+                                              const QByteArray &meal);
 
 } // namespace nutrika

@@ -8,11 +8,13 @@
 #include <QJsonDocument>
 #include <sys/file.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace nutrika {
 
 namespace {
 
-const QString recipesKey = QStringLiteral("recipes");
+const QString recipesKey = u"recipes"_s;
 
 struct StoredRecipes
 {
@@ -37,7 +39,7 @@ StoredRecipes readStore()
 // flock died with it, so an empty file we can flock is abandoned.
 void removeAbandonedLock(const QString &settingsFile)
 {
-    QFile lock(settingsFile + QStringLiteral(".lock"));
+    QFile lock(settingsFile + u".lock"_s);
     if (!lock.open(QIODevice::ReadOnly) || lock.size() != 0)
         return;
     if (::flock(lock.handle(), LOCK_EX | LOCK_NB) == 0)
@@ -63,8 +65,7 @@ void saveRecipe(const RecipeItem &recipe)
         const auto found = std::find_if(list.cbegin(), list.cend(),
                                         [&recipe](const RecipeItem &saved) { return saved.id == recipe.id; });
         index = found == list.cend() ? -1 : found - list.cbegin();
-        printDiagnostic(QStringLiteral("Should update: ") +
-                        (index < 0 ? QStringLiteral("none") : QString::number(index)));
+        printDiagnostic(u"Should update: "_s + (index < 0 ? u"none"_s : QString::number(index)));
     }
 
     // An empty list is written afresh: it may stand for an unreadable document.

@@ -31,12 +31,12 @@ QString Destinations::path(Screen screen)
     return {};
 }
 
-QUrl Destinations::screen(Screen screen)
+QUrl Destinations::screen(int screen)
 {
-    const QString file = path(screen);
+    const char *name = QMetaEnum::fromType<Screen>().valueToKey(screen);
+    const QString file = name ? path(static_cast<Screen>(screen)) : QString();
     if (file.isEmpty() || !QFile::exists(u":"_s + file)) {
-        const char *name = QMetaEnum::fromType<Screen>().valueToKey(screen);
-        qWarning("Destinations: no screen for %s", name ? name : qPrintable(QString::number(int(screen))));
+        qWarning("Destinations: no screen for %s", name ? name : qPrintable(QString::number(screen)));
         return {};
     }
     return QUrl(u"qrc:"_s + file);

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QObject>
-#include <QUrl>
 #include <QtQmlIntegration>
+#include <QUrl>
 
 class QQmlEngine;
 class QJSEngine;
@@ -18,7 +18,12 @@ class Destinations : public QObject
     QML_SINGLETON
 
 public:
-    enum Screen { SearchContainer, SelectPortion, AddToCalcPreview };
+    enum Screen
+    {
+        SearchContainer,
+        SelectPortion,
+        AddToCalcPreview
+    };
     Q_ENUM(Screen)
 
     using QObject::QObject;
@@ -26,8 +31,9 @@ public:
 
     /// The resource path of the screen's look.
     [[nodiscard]] static QString path(Screen screen);
-    /// The QML file of `screen`; warns and returns an empty URL when the module lacks it.
-    [[nodiscard]] Q_INVOKABLE static QUrl screen(nutrika::Destinations::Screen screen);
+    /// The QML file of `screen`; warns and returns an empty URL for a value outside the list or a
+    /// screen whose look the module lacks. Takes an int because QML hands over any number.
+    [[nodiscard]] Q_INVOKABLE static QUrl screen(int screen);
 };
 
 } // namespace nutrika

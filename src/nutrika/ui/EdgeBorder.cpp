@@ -4,20 +4,25 @@
 
 namespace nutrika {
 
-EdgeBorder::EdgeBorder(QQuickItem *parent)
-    : QQuickPaintedItem(parent)
-{
-}
+EdgeBorder::EdgeBorder(QQuickItem *parent) : QQuickPaintedItem(parent) {}
 
 QList<QRectF> EdgeBorder::path(const QRectF &rect, qreal width, const QList<Edge> &edges)
 {
     QList<QRectF> rects;
     for (const Edge edge : edges) {
         switch (edge) {
-        case Top: rects.append({rect.left(), rect.top(), rect.width(), width}); break;
-        case Bottom: rects.append({rect.left(), rect.bottom() - width, rect.width(), width}); break;
-        case Leading: rects.append({rect.left(), rect.top(), width, rect.height()}); break;
-        case Trailing: rects.append({rect.right() - width, rect.top(), width, rect.height()}); break;
+        case Top:
+            rects.append({rect.left(), rect.top(), rect.width(), width});
+            break;
+        case Bottom:
+            rects.append({rect.left(), rect.bottom() - width, rect.width(), width});
+            break;
+        case Leading:
+            rects.append({rect.left(), rect.top(), width, rect.height()});
+            break;
+        case Trailing:
+            rects.append({rect.right() - width, rect.top(), width, rect.height()});
+            break;
         }
     }
     return rects;

@@ -17,7 +17,13 @@ class EdgeBorder : public QQuickPaintedItem
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
 
 public:
-    enum Edge { Top, Leading, Bottom, Trailing };
+    enum Edge
+    {
+        Top,
+        Leading,
+        Bottom,
+        Trailing
+    };
     Q_ENUM(Edge)
 
     explicit EdgeBorder(QQuickItem *parent = nullptr);

@@ -27,10 +27,7 @@ QFont font(const QStringList &families)
 
 } // namespace
 
-Look::Look(QObject *parent)
-    : QObject(parent)
-{
-}
+Look::Look(QObject *parent) : QObject(parent) {}
 
 Look *Look::create(QQmlEngine *, QJSEngine *)
 {
@@ -42,17 +39,41 @@ Look *Look::create(QQmlEngine *, QJSEngine *)
     return instance;
 }
 
-QColor Look::titleText() const { return declarative(u"TitleText"_s); }
-QColor Look::headingText() const { return declarative(u"HeadingText"_s); }
-QColor Look::detailColor() const { return declarative(u"DetailColor1"_s); }
-QColor Look::lightGray() const { return declarative(u"lightGray"_s); }
+QColor Look::titleText() const
+{
+    return declarative(u"TitleText"_s);
+}
+QColor Look::headingText() const
+{
+    return declarative(u"HeadingText"_s);
+}
+QColor Look::detailColor() const
+{
+    return declarative(u"DetailColor1"_s);
+}
+QColor Look::lightGray() const
+{
+    return declarative(u"lightGray"_s);
+}
 
 // Liberation Sans is metric-compatible with Arial; DejaVu Sans is always on Debian.
-QFont Look::azoSans() const { return font({u"AzoSans"_s, u"Liberation Sans"_s, u"DejaVu Sans"_s}); }
-QFont Look::arial() const { return font({u"arial"_s, u"Liberation Sans"_s, u"DejaVu Sans"_s}); }
+QFont Look::azoSans() const
+{
+    return font({u"AzoSans"_s, u"Liberation Sans"_s, u"DejaVu Sans"_s});
+}
+QFont Look::arial() const
+{
+    return font({u"arial"_s, u"Liberation Sans"_s, u"DejaVu Sans"_s});
+}
 
-QString Look::symbolFont() const { return symbolFontFamily(); }
+QString Look::symbolFont() const
+{
+    return symbolFontFamily();
+}
 
-QString Look::symbol(const QString &name) const { return symbolGlyph(name); }
+QString Look::symbol(const QString &name) const
+{
+    return symbolGlyph(name);
+}
 
 } // namespace nutrika

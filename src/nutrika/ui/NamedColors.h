@@ -1,8 +1,8 @@
 #pragma once
 
+#include <optional>
 #include <QColor>
 #include <QString>
-#include <optional>
 
 namespace nutrika {
 
@@ -13,7 +13,8 @@ namespace nutrika {
 [[nodiscard]] bool notCanvas();
 
 /// The catalogue colour when running for real, else the preview fallback. Pure, for the accessors below.
-[[nodiscard]] std::optional<QColor> resolveUIColor(const QString &name, bool running, const QColor &previewFallback);
+[[nodiscard]] std::optional<QColor> resolveUIColor(const QString &name, bool running,
+                                                   const QColor &previewFallback);
 
 /// Colours for widget-side code, each computed once on first use.
 namespace UIColor {

@@ -1,12 +1,11 @@
 #include "NumberStepper.h"
 
-#include <QDebug>
 #include <algorithm>
+#include <QDebug>
 
 namespace nutrika {
 
-NumberStepper::NumberStepper(QObject *parent)
-    : QObject(parent)
+NumberStepper::NumberStepper(QObject *parent) : QObject(parent)
 {
     m_recognizer.setTimerType(Qt::PreciseTimer);
     m_timer.setTimerType(Qt::PreciseTimer);
@@ -17,8 +16,7 @@ NumberStepper::NumberStepper(QObject *parent)
     connect(&m_timer, &QTimer::timeout, this, [this] { step(m_pressDirection); });
 }
 
-NumberStepper::NumberStepper(qint64 min, qint64 max, QObject *parent)
-    : NumberStepper(parent)
+NumberStepper::NumberStepper(qint64 min, qint64 max, QObject *parent) : NumberStepper(parent)
 {
     m_min = min;
     m_max = max;

@@ -23,7 +23,11 @@ class NumberStepper : public QObject, public QQmlParserStatus
     Q_PROPERTY(double longPressInterval READ longPressInterval CONSTANT)
 
 public:
-    enum Direction { Down = -1, Up = 1 };
+    enum Direction
+    {
+        Down = -1,
+        Up = 1
+    };
     Q_ENUM(Direction)
 
     static constexpr int longPressDelayMs = 200;

@@ -9,7 +9,17 @@ namespace nutrika {
 namespace Preview {
 Q_NAMESPACE
 QML_ELEMENT
-enum Value { Main, ShowPicker, Recipes, Images, Descriptions, AddNew, Edit, NotPreview };
+enum Value
+{
+    Main,
+    ShowPicker,
+    Recipes,
+    Images,
+    Descriptions,
+    AddNew,
+    Edit,
+    NotPreview
+};
 Q_ENUM_NS(Value)
 } // namespace Preview
 

@@ -34,7 +34,8 @@ QString symbolFontFamily()
             u"fonts/truetype/material-design-icons-iconfont/MaterialIcons-Regular.ttf"_s);
         if (path.isEmpty())
             return QString();
-        const QStringList families = QFontDatabase::applicationFontFamilies(QFontDatabase::addApplicationFont(path));
+        const QStringList families =
+            QFontDatabase::applicationFontFamilies(QFontDatabase::addApplicationFont(path));
         return families.isEmpty() ? QString() : families.first();
     }();
     return family;

@@ -2,8 +2,7 @@
 
 namespace nutrika {
 
-TextFieldObserver::TextFieldObserver(QObject *parent)
-    : QObject(parent)
+TextFieldObserver::TextFieldObserver(QObject *parent) : QObject(parent)
 {
     // A coarse timer may fire up to 5% early; the pause is a whole second.
     m_debounce.setTimerType(Qt::PreciseTimer);

@@ -4,8 +4,7 @@
 
 namespace nutrika {
 
-TrimmedCircle::TrimmedCircle(QQuickItem *parent)
-    : QQuickPaintedItem(parent)
+TrimmedCircle::TrimmedCircle(QQuickItem *parent) : QQuickPaintedItem(parent)
 {
     setAntialiasing(true);
 }
@@ -26,7 +25,8 @@ void TrimmedCircle::setLineWidth(qreal width)
 
 void TrimmedCircle::paint(QPainter *painter)
 {
-    const QRectF padded = boundingRect().adjusted(m_lineWidth / 2, m_lineWidth / 2, -m_lineWidth / 2, -m_lineWidth / 2);
+    const QRectF padded =
+        boundingRect().adjusted(m_lineWidth / 2, m_lineWidth / 2, -m_lineWidth / 2, -m_lineWidth / 2);
     const qreal side = std::min(padded.width(), padded.height());
     if (side <= 0)
         return;

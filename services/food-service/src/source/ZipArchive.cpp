@@ -57,8 +57,8 @@ std::string ZipArchive::read(const Entry &entry) const
         filled += static_cast<std::uint64_t>(got);
     }
     if (filled != entry.size)
-        throw damaged("damaged, it holds " + std::to_string(filled) + " bytes where its directory entry says " +
-                      std::to_string(entry.size));
+        throw damaged("damaged, it holds " + std::to_string(filled) +
+                      " bytes where its directory entry says " + std::to_string(entry.size));
     content.resize(filled);
     return content;
 }

@@ -6,10 +6,10 @@
 namespace nutrika {
 
 CalculatorLinesModel::CalculatorLinesModel(EnvironmentVariables *session, QObject *parent)
-    : QAbstractListModel(parent)
-    , m_session(session)
+    : QAbstractListModel(parent), m_session(session)
 {
-    connect(session, &EnvironmentVariables::trackedNutrientListItemsChanged, this, &CalculatorLinesModel::reload);
+    connect(session, &EnvironmentVariables::trackedNutrientListItemsChanged, this,
+            &CalculatorLinesModel::reload);
     reload();
 }
 
@@ -50,7 +50,7 @@ DiaryEntryPtr CalculatorLinesModel::line(int row) const
 QString CalculatorLinesModel::lineAmount(const DiaryEntry &entry)
 {
     const bool complete = entry.type() == EntryType::Food ? entry.foodItem() && entry.hasTrackedNutrient()
-                                                           : entry.recipeItem().has_value();
+                                                          : entry.recipeItem().has_value();
     return complete ? amountText(entry.totalTrackedNutrient()) : QString();
 }
 

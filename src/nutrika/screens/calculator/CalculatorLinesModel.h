@@ -18,7 +18,13 @@ class CalculatorLinesModel : public QAbstractListModel
     QML_UNCREATABLE("Owned by CarbCounterUIView")
 
 public:
-    enum Role { TitleRole = Qt::UserRole + 1, IsFoodRole, AmountRole, EntryRole };
+    enum Role
+    {
+        TitleRole = Qt::UserRole + 1,
+        IsFoodRole,
+        AmountRole,
+        EntryRole
+    };
 
     explicit CalculatorLinesModel(EnvironmentVariables *session, QObject *parent = nullptr);
 

@@ -14,8 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace nutrika {
 
-CarbCounterUIView::CarbCounterUIView(QObject *parent)
-    : CarbCounterUIView({}, parent)
+CarbCounterUIView::CarbCounterUIView(QObject *parent) : CarbCounterUIView({}, parent)
 {
     m_onDismissCallback = [self = QPointer(this)] {
         if (self)
@@ -24,13 +23,13 @@ CarbCounterUIView::CarbCounterUIView(QObject *parent)
 }
 
 CarbCounterUIView::CarbCounterUIView(std::function<void()> onDismissCallback, QObject *parent)
-    : QObject(parent)
-    , m_onDismissCallback(std::move(onDismissCallback))
-    , m_lines(new CalculatorLinesModel(EnvironmentVariables::shared(), this))
-    , m_request([](qint64 foodId, QObject *context, FoodsDone done) {
-        requestAccompanyingFoods(*EnvironmentVariables::shared()->serviceClient(), foodId, context, std::move(done));
-    })
-    , m_showTimer(new QTimer(this))
+    : QObject(parent), m_onDismissCallback(std::move(onDismissCallback)),
+      m_lines(new CalculatorLinesModel(EnvironmentVariables::shared(), this)),
+      m_request([](qint64 foodId, QObject *context, FoodsDone done) {
+          requestAccompanyingFoods(*EnvironmentVariables::shared()->serviceClient(), foodId, context,
+                                   std::move(done));
+      }),
+      m_showTimer(new QTimer(this))
 {
     connect(m_lines, &CalculatorLinesModel::totalChanged, this, &CarbCounterUIView::totalChanged);
     m_showTimer->setSingleShot(true);
@@ -83,8 +82,9 @@ void CarbCounterUIView::appear()
             emit self->dismissPresentation();
     });
     if (m_preview != Preview::NotPreview) {
-        env->setTrackedNutrientListItems({example::exampleTrackedNutrient1(), example::exampleTrackedNutrient2(),
-                                          example::exampleDiaryRecipeItem1(), example::exampleDiaryRecipeItem2()});
+        env->setTrackedNutrientListItems(
+            {example::exampleTrackedNutrient1(), example::exampleTrackedNutrient2(),
+             example::exampleDiaryRecipeItem1(), example::exampleDiaryRecipeItem2()});
     } else if (env->TrackedNutrientListItems().isEmpty()) {
         env->setSearchActive(true);
     }
@@ -103,7 +103,8 @@ void CarbCounterUIView::getAccompanimentData()
         self->m_accompanimentListItems.append(*foods);
         emit self->accompanimentListItemsChanged();
         // A second reply before the pop-over shows keeps the first reply's schedule.
-        if (!self->m_accompanimentListItems.isEmpty() && !self->m_showAccompanimentList && !self->m_showTimer->isActive())
+        if (!self->m_accompanimentListItems.isEmpty() && !self->m_showAccompanimentList &&
+            !self->m_showTimer->isActive())
             self->m_showTimer->start();
     });
 }

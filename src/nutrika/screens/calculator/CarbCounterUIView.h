@@ -5,13 +5,13 @@
 #include "FoodItem.h"
 #include "Preview.h"
 
+#include <functional>
+#include <optional>
 #include <QList>
 #include <QObject>
 #include <QTimer>
-#include <QVariant>
 #include <QtQmlIntegration>
-#include <functional>
-#include <optional>
+#include <QVariant>
 
 namespace nutrika {
 
@@ -28,9 +28,11 @@ class CarbCounterUIView : public QObject
     /// "Total Carbohydrates".
     Q_PROPERTY(QString counterHeader READ counterHeader CONSTANT)
     Q_PROPERTY(bool hasAccompanimentItem READ hasAccompanimentItem NOTIFY accompanimentItemChanged)
-    Q_PROPERTY(nutrika::FoodItem accompanimentItem READ accompanimentItemValue NOTIFY accompanimentItemChanged)
+    Q_PROPERTY(
+        nutrika::FoodItem accompanimentItem READ accompanimentItemValue NOTIFY accompanimentItemChanged)
     /// The suggested foods (FoodItem values).
-    Q_PROPERTY(QVariantList accompanimentListItems READ accompanimentListVariant NOTIFY accompanimentListItemsChanged)
+    Q_PROPERTY(QVariantList accompanimentListItems READ accompanimentListVariant NOTIFY
+                   accompanimentListItemsChanged)
     Q_PROPERTY(bool showAccompanimentList READ showAccompanimentList WRITE setShowAccompanimentList NOTIFY
                    showAccompanimentListChanged)
     Q_PROPERTY(nutrika::Preview::Value preview READ preview WRITE setPreview NOTIFY previewChanged)

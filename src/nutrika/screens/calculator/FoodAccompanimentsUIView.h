@@ -3,11 +3,11 @@
 #include "FoodItem.h"
 #include "Preview.h"
 
+#include <optional>
 #include <QList>
 #include <QObject>
-#include <QVariantList>
 #include <QtQmlIntegration>
-#include <optional>
+#include <QVariantList>
 
 namespace nutrika {
 

@@ -6,8 +6,7 @@
 
 namespace nutrika {
 
-RecipeSearchUIView::RecipeSearchUIView(QObject *parent)
-    : QObject(parent)
+RecipeSearchUIView::RecipeSearchUIView(QObject *parent) : QObject(parent)
 {
     EnvironmentVariables *env = EnvironmentVariables::shared();
     const auto watchList = [this, env] {

@@ -4,8 +4,8 @@
 #include "RecipeItem.h"
 
 #include <QObject>
-#include <QVariantList>
 #include <QtQmlIntegration>
+#include <QVariantList>
 
 namespace nutrika {
 

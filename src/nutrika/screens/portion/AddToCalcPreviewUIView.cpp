@@ -11,8 +11,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace nutrika {
 
-AddToCalcPreviewUIView::AddToCalcPreviewUIView(QObject *parent)
-    : QObject(parent)
+AddToCalcPreviewUIView::AddToCalcPreviewUIView(QObject *parent) : QObject(parent)
 {
     connect(EnvironmentVariables::shared(), &EnvironmentVariables::editRecipeActiveChanged, this,
             &AddToCalcPreviewUIView::addButtonTextChanged);
@@ -47,9 +46,12 @@ void AddToCalcPreviewUIView::setEntry(DiaryEntryPtr entry, ViewMode mode)
     m_diaryEntry = std::move(entry);
     m_mode = mode;
     m_entryWatches = {
-        connect(m_diaryEntry.data(), &DiaryEntry::trackedNutrientChanged, this, &AddToCalcPreviewUIView::carbohydratesChanged),
-        connect(m_diaryEntry.data(), &DiaryEntry::quantityChanged, this, &AddToCalcPreviewUIView::carbohydratesChanged),
-        connect(m_diaryEntry.data(), &DiaryEntry::portionChanged, this, &AddToCalcPreviewUIView::portionChanged),
+        connect(m_diaryEntry.data(), &DiaryEntry::trackedNutrientChanged, this,
+                &AddToCalcPreviewUIView::carbohydratesChanged),
+        connect(m_diaryEntry.data(), &DiaryEntry::quantityChanged, this,
+                &AddToCalcPreviewUIView::carbohydratesChanged),
+        connect(m_diaryEntry.data(), &DiaryEntry::portionChanged, this,
+                &AddToCalcPreviewUIView::portionChanged),
     };
     emit entryChanged();
     emit portionChanged();
@@ -79,7 +81,8 @@ void AddToCalcPreviewUIView::fetchNutrients()
     emit isLoadingChanged();
     const DiaryEntryPtr entry = m_diaryEntry;
     // The answer fills the line even when this screen has gone: the line may already be on a list.
-    requestNutrients(*EnvironmentVariables::shared()->serviceClient(), *entry->foodItem(), *entry->portion(), entry.data(),
+    requestNutrients(*EnvironmentVariables::shared()->serviceClient(), *entry->foodItem(), *entry->portion(),
+                     entry.data(),
                      [entry, self = QPointer(this)](const std::optional<PortionNutrients> &answer) {
                          if (answer) {
                              entry->setNutrients(answer->nutrients);

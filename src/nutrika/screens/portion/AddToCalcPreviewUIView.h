@@ -8,6 +8,8 @@
 
 namespace nutrika {
 
+using namespace Qt::Literals::StringLiterals;
+
 /// State and operations of the add-to-calculator preview: one food line with its portion, quantity and
 /// carbohydrates, before it is added (add mode) or while a calculator line is changed (edit mode). Its
 /// look is AddToCalcPreviewScreen.qml.
@@ -36,7 +38,11 @@ class AddToCalcPreviewUIView : public QObject
     Q_PROPERTY(QString addButtonText READ addButtonText NOTIFY addButtonTextChanged)
 
 public:
-    enum ViewMode { AddNew, Edit };
+    enum ViewMode
+    {
+        AddNew,
+        Edit
+    };
     Q_ENUM(ViewMode)
 
     explicit AddToCalcPreviewUIView(QObject *parent = nullptr);
@@ -94,7 +100,7 @@ private:
     Preview::Value m_preview = Preview::NotPreview;
     ViewMode m_mode = AddNew;
     DiaryEntryPtr m_diaryEntry;
-    QString m_quantity = QStringLiteral("1");
+    QString m_quantity = u"1"_s;
     int m_pendingRequests = 0;
     bool m_nutrientsFailed = false;
     QList<QMetaObject::Connection> m_entryWatches;

@@ -8,10 +8,7 @@
 
 namespace nutrika {
 
-PortionPicture::PortionPicture(QQuickItem *parent)
-    : QQuickPaintedItem(parent)
-{
-}
+PortionPicture::PortionPicture(QQuickItem *parent) : QQuickPaintedItem(parent) {}
 
 void PortionPicture::load()
 {

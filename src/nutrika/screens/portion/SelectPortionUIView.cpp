@@ -25,11 +25,7 @@ QString digitsOf(const QString &text)
 
 } // namespace
 
-SelectPortionUIView::SelectPortionUIView(QObject *parent)
-    : QObject(parent)
-    , m_customPortionSize(-1)
-{
-}
+SelectPortionUIView::SelectPortionUIView(QObject *parent) : QObject(parent), m_customPortionSize(-1) {}
 
 QStringList SelectPortionUIView::options() const
 {
@@ -52,14 +48,15 @@ void SelectPortionUIView::loadData()
     emit portionsChanged();
     m_isLoading = true;
     emit isLoadingChanged();
-    requestPortions(*EnvironmentVariables::shared()->serviceClient(), m_selectedFood.id, this, [self = QPointer(this)](const std::optional<QList<PortionItem>> &portions) {
-        if (!self)
-            return;
-        self->m_isLoading = false;
-        emit self->isLoadingChanged();
-        if (portions)
-            self->setPortions(*portions);
-    });
+    requestPortions(*EnvironmentVariables::shared()->serviceClient(), m_selectedFood.id, this,
+                    [self = QPointer(this)](const std::optional<QList<PortionItem>> &portions) {
+                        if (!self)
+                            return;
+                        self->m_isLoading = false;
+                        emit self->isLoadingChanged();
+                        if (portions)
+                            self->setPortions(*portions);
+                    });
 }
 
 void SelectPortionUIView::setPortions(const QList<PortionItem> &portions)
@@ -121,8 +118,8 @@ void SelectPortionUIView::setCustomText(const QString &text)
     bool number = true;
     const qint64 size = digits.toLongLong(&number);
     m_customPortionSize = digits.isEmpty() ? std::optional<qint64>(-1)
-                          : number        ? std::optional<qint64>(size)
-                                          : std::nullopt;
+                          : number         ? std::optional<qint64>(size)
+                                           : std::nullopt;
     if (customSelected() && m_customPortionSize)
         m_selectedPortion->size = *m_customPortionSize;
     // Always announced: a field that showed "12a3" must be told to show "123".

@@ -4,12 +4,12 @@
 #include "PortionItem.h"
 #include "Preview.h"
 
+#include <optional>
 #include <QList>
 #include <QObject>
 #include <QStringList>
-#include <QVariantList>
 #include <QtQmlIntegration>
-#include <optional>
+#include <QVariantList>
 
 namespace nutrika {
 
@@ -20,7 +20,8 @@ class SelectPortionUIView : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(nutrika::FoodItem selectedFood READ selectedFood WRITE setSelectedFood NOTIFY selectedFoodChanged)
+    Q_PROPERTY(
+        nutrika::FoodItem selectedFood READ selectedFood WRITE setSelectedFood NOTIFY selectedFoodChanged)
     Q_PROPERTY(nutrika::Preview::Value preview READ preview WRITE setPreview NOTIFY previewChanged)
     /// "Images", "Descriptions".
     Q_PROPERTY(QStringList options READ options CONSTANT)
@@ -37,7 +38,8 @@ class SelectPortionUIView : public QObject
     Q_PROPERTY(bool canSelectPortion READ canSelectPortion NOTIFY selectionChanged)
     /// The portion "Select Portion" handed on last.
     Q_PROPERTY(nutrika::PortionItem chosenPortion READ chosenPortion NOTIFY chosenPortionChanged)
-    Q_PROPERTY(bool navigationActive READ navigationActive WRITE setNavigationActive NOTIFY navigationActiveChanged)
+    Q_PROPERTY(
+        bool navigationActive READ navigationActive WRITE setNavigationActive NOTIFY navigationActiveChanged)
     /// Whether the opener takes the portion back (completed()) instead of the preview opening.
     Q_PROPERTY(bool hasCompleteCallback READ hasCompleteCallback WRITE setHasCompleteCallback NOTIFY
                    hasCompleteCallbackChanged)
@@ -99,7 +101,10 @@ signals:
 private:
     void setPortions(const QList<PortionItem> &portions);
     void showPreviewPortions();
-    [[nodiscard]] bool customSelected() const { return m_selectedPortion && m_selectedPortion->_id == basePortionItem()._id; }
+    [[nodiscard]] bool customSelected() const
+    {
+        return m_selectedPortion && m_selectedPortion->_id == basePortionItem()._id;
+    }
 
     FoodItem m_selectedFood{QString(), -1, -1, QString(), false};
     Preview::Value m_preview = Preview::NotPreview;

@@ -3,10 +3,11 @@
 #include "EnvironmentVariables.h"
 #include "FilterOptionsRequest.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace nutrika {
 
-ItemSearchUIView::ItemSearchUIView(QObject *parent)
-    : QObject(parent)
+ItemSearchUIView::ItemSearchUIView(QObject *parent) : QObject(parent)
 {
     connect(this, &ItemSearchUIView::debouncedTextChanged, this, &ItemSearchUIView::countTextChanged);
     connect(this, &ItemSearchUIView::numSearchResultsChanged, this, &ItemSearchUIView::countTextChanged);
@@ -86,8 +87,8 @@ void ItemSearchUIView::rowAppeared(bool branded, int indexInSection)
 {
     const qsizetype generic = m_results.nonBranded().size();
     const qsizetype brandedCount = m_results.branded().size();
-    const bool lastRow = branded ? indexInSection >= brandedCount - 1
-                                 : indexInSection >= generic - 1 && brandedCount == 0;
+    const bool lastRow =
+        branded ? indexInSection >= brandedCount - 1 : indexInSection >= generic - 1 && brandedCount == 0;
     if (lastRow)
         loadSearchData();
 }
@@ -119,9 +120,8 @@ QString ItemSearchUIView::countText() const
 {
     if (m_debouncedText.isEmpty())
         return {};
-    return QStringLiteral("%1 %2 matching your search")
-        .arg(QString::number(m_numSearchResults),
-             m_numSearchResults == 1 ? QStringLiteral("item") : QStringLiteral("items"));
+    return u"%1 %2 matching your search"_s.arg(QString::number(m_numSearchResults),
+                                               m_numSearchResults == 1 ? u"item"_s : u"items"_s);
 }
 
 void ItemSearchUIView::setBrandFilterValue(const QString &value)

@@ -3,12 +3,14 @@
 #include "FoodSearchRequest.h"
 #include "SearchResultsModel.h"
 
+#include <optional>
 #include <QObject>
 #include <QStringList>
 #include <QtQmlIntegration>
-#include <optional>
 
 namespace nutrika {
+
+using namespace Qt::Literals::StringLiterals;
 
 /// State and operations of the food search: the settled text, the pages of generic and branded results,
 /// the brand and category filters and the error alert. Its look is ItemSearchScreen.qml.
@@ -24,10 +26,12 @@ class ItemSearchUIView : public QObject
     Q_PROPERTY(QString countText READ countText NOTIFY countTextChanged)
     Q_PROPERTY(QStringList brandOptions READ brandOptions NOTIFY brandOptionsChanged)
     Q_PROPERTY(QStringList categoryOptions READ categoryOptions NOTIFY categoryOptionsChanged)
-    Q_PROPERTY(QString brandFilterValue READ brandFilterValue WRITE setBrandFilterValue NOTIFY brandFilterValueChanged)
+    Q_PROPERTY(QString brandFilterValue READ brandFilterValue WRITE setBrandFilterValue NOTIFY
+                   brandFilterValueChanged)
     Q_PROPERTY(QString categoryFilterValue READ categoryFilterValue WRITE setCategoryFilterValue NOTIFY
                    categoryFilterValueChanged)
-    Q_PROPERTY(bool showErrorMessage READ showErrorMessage WRITE setShowErrorMessage NOTIFY showErrorMessageChanged)
+    Q_PROPERTY(
+        bool showErrorMessage READ showErrorMessage WRITE setShowErrorMessage NOTIFY showErrorMessageChanged)
     Q_PROPERTY(QString errorMessageTitle READ errorMessageTitle NOTIFY errorMessageChanged)
     Q_PROPERTY(QString errorMessageBody READ errorMessageBody NOTIFY errorMessageChanged)
     Q_PROPERTY(qint64 offset READ offset NOTIFY offsetChanged)
@@ -35,8 +39,8 @@ class ItemSearchUIView : public QObject
     Q_PROPERTY(nutrika::FoodItem selectedFood READ selectedFood NOTIFY selectedFoodChanged)
 
 public:
-    static inline const QString ALL_BRANDS = QStringLiteral("All Brands");
-    static inline const QString ALL_CATEGORIES = QStringLiteral("All Categories");
+    static inline const QString ALL_BRANDS = u"All Brands"_s;
+    static inline const QString ALL_CATEGORIES = u"All Categories"_s;
 
     explicit ItemSearchUIView(QObject *parent = nullptr);
 
@@ -103,8 +107,8 @@ private:
     QString m_brandFilterValue;
     QString m_categoryFilterValue;
     bool m_showErrorMessage = false;
-    QString m_errorMessageTitle = QStringLiteral("Error");
-    QString m_errorMessageBody = QStringLiteral("An Unknown Error Has Occoured");
+    QString m_errorMessageTitle = u"Error"_s;
+    QString m_errorMessageBody = u"An Unknown Error Has Occoured"_s;
     qint64 m_offset = 0;
     FoodItem m_selectedFood{QString(), -1, -1, QString(), false};
     // Replies to an earlier text or filter choice are dropped, so a slow old reply never overwrites

@@ -6,6 +6,8 @@
 
 namespace nutrika {
 
+using namespace Qt::Literals::StringLiterals;
+
 /// State of the search container: the "Search" and "Meals" tabs. Its look is SearchContainerScreen.qml,
 /// which builds the chosen tab's screen afresh on every switch.
 class SearchContainerUIView : public QObject
@@ -18,7 +20,7 @@ class SearchContainerUIView : public QObject
 public:
     using QObject::QObject;
 
-    [[nodiscard]] QStringList options() const { return {QStringLiteral("Search"), QStringLiteral("Meals")}; }
+    [[nodiscard]] QStringList options() const { return {u"Search"_s, u"Meals"_s}; }
     [[nodiscard]] int tabOption() const { return m_tabOption; }
     void setTabOption(int tab);
 

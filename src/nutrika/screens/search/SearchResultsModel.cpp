@@ -1,5 +1,7 @@
 #include "SearchResultsModel.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace nutrika {
 
 int SearchResultsModel::rowCount(const QModelIndex &parent) const
@@ -27,7 +29,7 @@ QVariant SearchResultsModel::data(const QModelIndex &index, int role) const
     case TitleRole:
         if (food)
             return food->description;
-        return inBranded ? QStringLiteral("Branded") : QStringLiteral("Non-Branded");
+        return inBranded ? u"Branded"_s : u"Non-Branded"_s;
     case BrandRole:
         return food ? food->brand : QString();
     case FoodIdRole:

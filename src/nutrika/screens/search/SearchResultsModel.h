@@ -16,7 +16,15 @@ class SearchResultsModel : public QAbstractListModel
     QML_UNCREATABLE("Owned by ItemSearchUIView")
 
 public:
-    enum Role { IsHeaderRole = Qt::UserRole + 1, TitleRole, BrandRole, FoodIdRole, BrandedRole, IndexInSectionRole };
+    enum Role
+    {
+        IsHeaderRole = Qt::UserRole + 1,
+        TitleRole,
+        BrandRole,
+        FoodIdRole,
+        BrandedRole,
+        IndexInSectionRole
+    };
 
     using QAbstractListModel::QAbstractListModel;
 
