@@ -177,6 +177,8 @@ TestCase {
         tryVerify(() => popup.visible, 3000) // the second food brings its own suggestions
         mouseClick(findChild(popup.contentItem, "noThanksButton"))
         tryVerify(() => !popup.visible)
+        compare(root.navigation.depth, 1) // "No Thanks" opens nothing
+        compare(EnvironmentVariables.searchActive, false)
         mouseClick(findChild(root, "lineList").itemAtIndex(0))
         preview = settled(root, 2)
         compare(preview.uiView.mode, AddToCalcPreviewUIView.Edit)
@@ -208,6 +210,8 @@ TestCase {
     function test_2_reopeningWithTheSearchOpenShowsTheSearch() {
         let root = createTemporaryObject(rootComponent, testCase)
         settled(root, 2)
+        wait(300) // no blank food's portions pushed over the search before any tap
+        compare(root.navigation.depth, 2)
         root.destroy()
         wait(50)
         root = createTemporaryObject(rootComponent, testCase)

@@ -2,6 +2,7 @@
 #include "EnvironmentVariables.h"
 #include "ExampleData.h"
 #include "Formatting.h"
+#include "StdoutCapture.h"
 
 #include <QAbstractItemModelTester>
 #include <QElapsedTimer>
@@ -248,9 +249,13 @@ private slots:
 
         QElapsedTimer clock;
         clock.start();
+        StdoutCapture output;
         pending.first()(QList<FoodItem>{food(1, u"Butter"_s)});
         pending.first()(QList<FoodItem>{food(2, u"Jam"_s)}); // both answers land in the same list
         QCOMPARE(view.accompanimentListItems().size(), 2);
+        const QList<QByteArray> lines = output.lines(); // each reply dumps the whole list
+        QCOMPARE(lines.size(), 2);
+        QVERIFY(lines[1].startsWith("[{") && lines[1].contains("Butter") && lines[1].contains("Jam"));
         QVERIFY(!view.showAccompanimentList());
         QTRY_VERIFY_WITH_TIMEOUT(view.showAccompanimentList(), 5000);
         QVERIFY(clock.elapsed() >= 990);

@@ -12,6 +12,8 @@ Rectangle {
     property alias min: stepper.min
     property alias max: stepper.max
     readonly property alias stepper: stepper
+    // What the number counts, for a screen reader.
+    property string accessibleName: qsTr("Number")
 
     // Every normalised value (onUpdate).
     signal updated(real value)
@@ -56,7 +58,7 @@ Rectangle {
             inputMethodHints: Qt.ImhDigitsOnly
             background: null
             Accessible.role: Accessible.EditableText
-            Accessible.name: qsTr("Number")
+            Accessible.name: control.accessibleName
         }
 
         RoundIconButton {

@@ -7,6 +7,7 @@
 #include "Formatting.h"
 #include "Totals.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QPointer>
 
@@ -102,6 +103,10 @@ void CarbCounterUIView::getAccompanimentData()
             return;
         self->m_accompanimentListItems.append(*foods);
         emit self->accompanimentListItemsChanged();
+        QJsonArray dump;
+        for (const FoodItem &item : std::as_const(self->m_accompanimentListItems))
+            dump.append(item.toJson());
+        printDiagnostic("", QJsonDocument(dump).toJson(QJsonDocument::Compact));
         // A second reply before the pop-over shows keeps the first reply's schedule.
         if (!self->m_accompanimentListItems.isEmpty() && !self->m_showAccompanimentList &&
             !self->m_showTimer->isActive())

@@ -54,6 +54,7 @@ ColumnLayout {
         }
         NumberStepperControl {
             objectName: "quantityStepper"
+            accessibleName: qsTr("Quantity")
             min: 1
             max: 99999
             color: "white"
