@@ -268,6 +268,40 @@ private slots:
         QCOMPARE(view.filterResetHint(), QString());
         QCOMPARE(server.requests().size(), 2);
     }
+
+    void filterOptionsFollowTheLatestText_data()
+    {
+        QTest::addColumn<QString>("then");
+        QTest::addColumn<QString>("brand");
+        QTest::newRow("Done before they arrive") << QString() << u"apple brand"_s;
+        QTest::newRow("a new text before they arrive") << u"banana"_s << u"banana brand"_s;
+    }
+
+    void filterOptionsFollowTheLatestText()
+    {
+        QFETCH(QString, then);
+        QFETCH(QString, brand);
+        RecordingServer server;
+        // Each text's options name it; the first text's come late, after anything sent next.
+        server.setResponder([](const RecordingServer::Request &request) -> RecordingServer::Reply {
+            const QByteArray target = request.requestLine.split(' ').value(1);
+            if (!target.contains("brands_and_categories"))
+                return {200, page(0, 0, 0)};
+            const QString text =
+                QUrlQuery(QString::fromUtf8(target.mid(target.indexOf('?') + 1))).queryItemValue(u"search"_s);
+            return {200, R"({"brands":[")" + text.toUtf8() + R"( brand"],"categories":[]})",
+                    "application/json", -1, text == u"apple"_s ? 300 : 0};
+        });
+        pointAt(server.origin());
+        ItemSearchUIView view;
+        view.onFinishTyping(u"apple"_s);
+        if (then.isEmpty())
+            view.filterDone();
+        else
+            view.onFinishTyping(then);
+        QTest::qWait(600);
+        QCOMPARE(view.brandOptions(), (QStringList{ItemSearchUIView::ALL_BRANDS, brand}));
+    }
 };
 
 QTEST_MAIN(ItemSearchTest)

@@ -18,6 +18,7 @@ void ItemSearchUIView::onFinishTyping(const QString &text)
     if (text == m_debouncedText)
         return;
     m_debouncedText = text;
+    ++m_textGeneration;
     emit debouncedTextChanged();
     if (text.isEmpty())
         return;
@@ -76,8 +77,8 @@ void ItemSearchUIView::applyPage(const FoodSearchPage &page, bool filtered)
 void ItemSearchUIView::getFilterOptions()
 {
     requestFilterOptions(*EnvironmentVariables::shared()->serviceClient(), m_debouncedText, this,
-                         [this, generation = m_generation](const std::optional<FilterOptions> &options) {
-                             if (generation != m_generation || !options)
+                         [this, generation = m_textGeneration](const std::optional<FilterOptions> &options) {
+                             if (generation != m_textGeneration || !options)
                                  return;
                              m_brandOptions = QStringList{ALL_BRANDS} + options->brands;
                              m_categoryOptions = QStringList{ALL_CATEGORIES} + options->categories;

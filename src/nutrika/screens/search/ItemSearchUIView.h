@@ -122,6 +122,8 @@ private:
     // Replies to an earlier text or filter choice are dropped, so a slow old reply never overwrites
     // newer results; and a page already on its way is not asked for twice.
     quint64 m_generation = 0;
+    // The filter options depend on the text alone: only a new text makes their reply stale.
+    quint64 m_textGeneration = 0;
     std::optional<qint64> m_pageInFlight;
 };
 
