@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QSslSocket>
+#include <QTimer>
 
 namespace {
 
@@ -77,9 +78,17 @@ void RecordingServer::answer(QSslSocket *socket, const QByteArray &head)
         line.chop(line.endsWith('\r') ? 1 : 0);
     m_requests.append({lines.takeFirst(), lines});
 
-    const qint64 length = std::max<qint64>(m_reply.announcedLength, m_reply.body.size());
-    socket->write("HTTP/1.1 " + QByteArray::number(m_reply.status) + " Scripted\r\nContent-Type: " +
-                  m_reply.contentType + "\r\nContent-Length: " + QByteArray::number(length) +
-                  "\r\nConnection: close\r\n\r\n" + m_reply.body);
-    socket->disconnectFromHost();
+    const Reply reply = m_responder ? m_responder(m_requests.last()) : m_reply;
+    const qint64 length = std::max<qint64>(reply.announcedLength, reply.body.size());
+    const QByteArray response =
+        "HTTP/1.1 " + QByteArray::number(reply.status) + " Scripted\r\nContent-Type: " + reply.contentType +
+        "\r\nContent-Length: " + QByteArray::number(length) + "\r\nConnection: close\r\n\r\n" + reply.body;
+    const auto send = [socket, response] {
+        socket->write(response);
+        socket->disconnectFromHost();
+    };
+    if (reply.delayMs > 0)
+        QTimer::singleShot(reply.delayMs, socket, send);
+    else
+        send();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <QByteArray>
 #include <QList>
 #include <QSslCertificate>
@@ -22,6 +23,8 @@ public:
         QByteArray contentType = "application/json";
         /// Announced body length when larger than the body: the connection closes early.
         qint64 announcedLength = -1;
+        /// Held back this long before it is sent.
+        int delayMs = 0;
     };
 
     struct Request
@@ -43,6 +46,8 @@ public:
 
     [[nodiscard]] QString origin() const;
     void setReply(const Reply &reply) { m_reply = reply; }
+    /// Answers each request with what `responder` makes of it, in place of the one scripted reply.
+    void setResponder(std::function<Reply(const Request &)> responder) { m_responder = std::move(responder); }
     [[nodiscard]] const QList<Request> &requests() const { return m_requests; }
 
     /// The directory holding the test certificates.
@@ -57,5 +62,6 @@ private:
     QSslCertificate m_certificate;
     QSslKey m_key;
     Reply m_reply;
+    std::function<Reply(const Request &)> m_responder;
     QList<Request> m_requests;
 };

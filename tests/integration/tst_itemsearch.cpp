@@ -5,6 +5,7 @@
 #include "ServiceProbes.h"
 #include "StdoutCapture.h"
 
+#include <QAbstractItemModelTester>
 #include <QTcpServer>
 #include <QTest>
 #include <QUrlQuery>
@@ -71,14 +72,19 @@ private slots:
         server.setReply({200, page(120, 2, 0)});
         pointAt(server.origin());
         ItemSearchUIView view;
+        QAbstractItemModelTester tester(view.results(),
+                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
 
         view.onFinishTyping(u"banana"_s);
+        QVERIFY(view.resultsStale());
         settle(view, server, 2);
+        QVERIFY(!view.resultsStale());
         QCOMPARE(view.countText(), u"120 items matching your search"_s);
         QCOMPARE(view.brandOptions(), QStringList{ItemSearchUIView::ALL_BRANDS});
         for (int pageNumber = 1; pageNumber <= 3; ++pageNumber) {
             view.rowAppeared(false, int(view.nonBrandedResults().size()) - 1);
             view.rowAppeared(false, int(view.nonBrandedResults().size()) - 1); // already on its way
+            QVERIFY(view.isLoading() && !view.resultsStale()); // a next page does not dim the rows
             settle(view, server, 2 + pageNumber);
         }
         QCOMPARE(offsets(server), (QStringList{u"0"_s, u"50"_s, u"100"_s, u"150"_s}));
@@ -116,6 +122,7 @@ private slots:
         QTest::newRow("last generic, branded below") << 3 << 2 << false << 2 << false;
         QTest::newRow("last branded") << 3 << 2 << true << 1 << true;
         QTest::newRow("earlier branded") << 3 << 2 << true << 0 << false;
+        QTest::newRow("last branded, no generic") << 0 << 2 << true << 1 << true;
     }
 
     void onlyTheLastRowOfThePagingSectionLoadsMore()
@@ -129,8 +136,28 @@ private slots:
         server.setReply({200, page(100, generic, branded)});
         pointAt(server.origin());
         ItemSearchUIView view;
+        QAbstractItemModelTester tester(view.results(),
+                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
         view.onFinishTyping(u"apple"_s);
         settle(view, server, 2);
+
+        // The view draws a header over each run of one section; an empty section keeps one row for it.
+        const QAbstractItemModel &model = *view.results();
+        const auto role = [&](int row, const char *name) {
+            return model.data(model.index(row, 0), int(model.roleNames().key(name)));
+        };
+        QStringList layout;
+        for (int row = 0; row < model.rowCount(); ++row)
+            layout << role(row, "section").toString() +
+                          (role(row, "isPlaceholder").toBool() ? u" (none)"_s : u""_s);
+        QStringList expected;
+        for (int i = 0; i < std::max(generic, 1); ++i)
+            expected << (generic ? u"Non-Branded"_s : u"Non-Branded (none)"_s);
+        for (int i = 0; i < std::max(branded, 1); ++i)
+            expected << (branded ? u"Branded"_s : u"Branded (none)"_s);
+        QCOMPARE(layout, expected);
+        const int row = fromBranded ? std::max(generic, 1) + index : index;
+        QCOMPARE(role(row, "indexInSection").toInt(), index);
 
         view.rowAppeared(fromBranded, index);
         QTest::qWait(loads ? 0 : 200);
@@ -195,34 +222,85 @@ private slots:
         QTRY_VERIFY(view.categoryOptions().size() > 1);
         QCOMPARE(view.categoryOptions().first(), ItemSearchUIView::ALL_CATEGORIES);
 
-        view.selectRow(1);
+        view.selectRow(0);
         QCOMPARE(EnvironmentVariables::shared()->portionActive(), view.nonBrandedResults().first().id);
     }
 
     void countLine_data()
     {
         QTest::addColumn<int>("count");
+        QTest::addColumn<QString>("brand");
+        QTest::addColumn<QString>("category");
         QTest::addColumn<QString>("text");
-        QTest::newRow("none") << 0 << u"0 items matching your search"_s;
-        QTest::newRow("one") << 1 << u"1 item matching your search"_s;
-        QTest::newRow("two") << 2 << u"2 items matching your search"_s;
+        QTest::addColumn<bool>("resetHint");
+        const QString none = u"0 items matching your search"_s;
+        QTest::newRow("none") << 0 << QString() << QString() << none << false;
+        QTest::newRow("none, all brands")
+            << 0 << ItemSearchUIView::ALL_BRANDS << ItemSearchUIView::ALL_CATEGORIES << none << false;
+        QTest::newRow("none with a brand") << 0 << u"Dole"_s << QString() << none << true;
+        QTest::newRow("none with a category")
+            << 0 << ItemSearchUIView::ALL_BRANDS << u"Fruits"_s << none << true;
+        QTest::newRow("one with a brand")
+            << 1 << u"Dole"_s << QString() << u"1 item matching your search"_s << false;
+        QTest::newRow("two") << 2 << QString() << QString() << u"2 items matching your search"_s << false;
     }
 
     void countLine()
     {
         QFETCH(int, count);
+        QFETCH(QString, brand);
+        QFETCH(QString, category);
         QFETCH(QString, text);
+        QFETCH(bool, resetHint);
         RecordingServer server;
         server.setReply({200, page(count, 0, 0)});
         pointAt(server.origin());
         ItemSearchUIView view;
         QCOMPARE(view.countText(), QString());
+        view.setBrandFilterValue(brand);
+        view.setCategoryFilterValue(category);
         view.onFinishTyping(u"x"_s);
         settle(view, server, 2);
         QCOMPARE(view.countText(), text);
+        QCOMPARE(!view.filterResetHint().isEmpty(), resetHint);
         view.onFinishTyping(QString());
         QCOMPARE(view.countText(), QString()); // hidden again, the lists stay
+        QCOMPARE(view.filterResetHint(), QString());
         QCOMPARE(server.requests().size(), 2);
+    }
+
+    void filterOptionsFollowTheLatestText_data()
+    {
+        QTest::addColumn<QString>("then");
+        QTest::addColumn<QString>("brand");
+        QTest::newRow("Done before they arrive") << QString() << u"apple brand"_s;
+        QTest::newRow("a new text before they arrive") << u"banana"_s << u"banana brand"_s;
+    }
+
+    void filterOptionsFollowTheLatestText()
+    {
+        QFETCH(QString, then);
+        QFETCH(QString, brand);
+        RecordingServer server;
+        // Each text's options name it; the first text's come late, after anything sent next.
+        server.setResponder([](const RecordingServer::Request &request) -> RecordingServer::Reply {
+            const QByteArray target = request.requestLine.split(' ').value(1);
+            if (!target.contains("brands_and_categories"))
+                return {200, page(0, 0, 0)};
+            const QString text =
+                QUrlQuery(QString::fromUtf8(target.mid(target.indexOf('?') + 1))).queryItemValue(u"search"_s);
+            return {200, R"({"brands":[")" + text.toUtf8() + R"( brand"],"categories":[]})",
+                    "application/json", -1, text == u"apple"_s ? 300 : 0};
+        });
+        pointAt(server.origin());
+        ItemSearchUIView view;
+        view.onFinishTyping(u"apple"_s);
+        if (then.isEmpty())
+            view.filterDone();
+        else
+            view.onFinishTyping(then);
+        QTest::qWait(600);
+        QCOMPARE(view.brandOptions(), (QStringList{ItemSearchUIView::ALL_BRANDS, brand}));
     }
 };
 

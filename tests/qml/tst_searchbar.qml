@@ -49,6 +49,15 @@ TestCase {
         compare(bar.textObserver.searchText, "rice")
     }
 
+    function test_enterHandsTheTextOverAtOnce() {
+        const bar = createTemporaryObject(barComponent, testCase)
+        findChild(bar, "searchField").forceActiveFocus()
+        for (const key of "rice")
+            keyClick(key)
+        keyClick(Qt.Key_Return)
+        compare(delivered, ["", "rice"])
+    }
+
     function test_loadingTurnsTheArrows() {
         const bar = createTemporaryObject(barComponent, testCase)
         const icon = findChild(bar, "searchIcon")

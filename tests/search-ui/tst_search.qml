@@ -20,6 +20,12 @@ TestCase {
         id: containerComponent
         SearchContainerScreen {}
     }
+    Component {
+        id: rootComponent
+        NutrikaRoot { anchors.fill: parent }
+    }
+
+    function cleanup() { ServiceProbe.resetSession() }
 
     function shoot(item, name) {
         if (ServiceProbe.screenshotDir !== "")
@@ -37,8 +43,34 @@ TestCase {
     function typeSearch(container, text) {
         const field = findChild(container, "searchField")
         field.forceActiveFocus()
+        field.selectAll()
         for (const c of text)
             keyClick(c)
+    }
+
+    // The header drawn at the top of the list, if any.
+    function pinnedHeader(list) {
+        for (const child of list.contentItem.children)
+            if (child.objectName === "sectionHeader" && child.visible && Math.abs(child.mapToItem(list, 0, 0).y) < 1)
+                return child
+        return null
+    }
+
+    function test_0_theSearchFieldTakesKeysAtOnceAndEnterSearches() {
+        verify(ServiceProbe.ready)
+        const root = createTemporaryObject(rootComponent, testCase)
+        root.forceActiveFocus()
+        EnvironmentVariables.searchActive = true
+        tryVerify(() => root.navigation.depth === 2 && !root.navigation.busy)
+        const field = findChild(root.navigation.currentItem, "searchField")
+        tryVerify(() => field.activeFocus)
+        for (const c of "rice")
+            keyClick(c)
+        compare(field.text, "rice")
+        const view = findChild(root.navigation.currentItem, "tabContent").item.uiView
+        keyClick(Qt.Key_Return)
+        compare(view.debouncedText, "rice") // not a second later
+        shoot(root, "search-focused")
     }
 
     function foodRows(list) {
@@ -50,20 +82,31 @@ TestCase {
 
     function test_1_typingShowsTheCountAndBothSections() {
         const container = openSearch()
+        shoot(container, "search-filters-disabled")
         typeSearch(container, "banana")
         const count = findChild(container, "countLine")
         tryVerify(() => count.visible && count.text.endsWith("items matching your search"), 5000)
         const list = findChild(container, "results")
         tryVerify(() => foodRows(list) > 0, 5000)
-        compare(list.itemAtIndex(0).item.shownTitle, "Non-Branded")
-        compare(list.itemAtIndex(1).item.title, "Bananas, raw")
+        compare(pinnedHeader(list).shownTitle, "Non-Branded")
+        compare(list.itemAtIndex(0).title, "Bananas, raw")
         shoot(container, "search-banana")
 
-        // Scrolling to the end asks for the next page.
+        // Scrolling to the end asks for the next page; the header of the section in view stays on top.
         const before = list.count
         list.positionViewAtEnd()
         tryVerify(() => list.count > before, 5000)
+        list.positionViewAtIndex(Math.floor(list.count / 2), ListView.Beginning)
+        const top = list.itemAt(10, list.contentY + pinnedHeader(list).height + 1)
+        compare(pinnedHeader(list).shownTitle, top.branded ? "Branded" : "Non-Branded")
         shoot(container, "search-banana-paged")
+
+        // A new text dims the rows shown until its first page replaces them.
+        typeSearch(container, "apple")
+        keyClick(Qt.Key_Return)
+        verify(list.itemAt(10, list.contentY + 100).opacity < 1)
+        shoot(container, "search-stale-rows")
+        tryVerify(() => list.itemAtIndex(0).opacity === 1 && list.itemAtIndex(0).title.startsWith("Apple"), 5000)
     }
 
     function test_2_aBrandChosenWithDoneFilters() {
@@ -76,9 +119,18 @@ TestCase {
         mouseClick(brand)
         tryVerify(() => brand.isPresented)
         const wheel = findChild(brand, "filterWheel")
-        const chosen = brand.options[1]
-        wheel.currentIndex = 1
-        tryCompare(brand, "selectedFilterItem", chosen)
+        verify(brand.options.length > 2)
+        // Keys, the mouse wheel and a click on an option all choose.
+        keyClick(Qt.Key_Down)
+        compare(brand.selectedFilterItem, brand.options[1])
+        mouseWheel(wheel, wheel.width / 2, wheel.height / 2, 0, -120)
+        compare(brand.selectedFilterItem, brand.options[2])
+        mouseWheel(wheel, wheel.width / 2, wheel.height / 2, 0, 120)
+        compare(brand.selectedFilterItem, brand.options[1])
+        tryVerify(() => !wheel.moving)
+        mouseClick(wheel, wheel.width / 2, wheel.height / 2 + wheel.height / wheel.visibleItemCount)
+        compare(brand.selectedFilterItem, brand.options[2])
+        const chosen = brand.options[2]
         shoot(container.Window.contentItem, "search-brand-sheet")
         mouseClick(findChild(brand, "doneButton"))
         tryVerify(() => !brand.isPresented)
@@ -87,12 +139,20 @@ TestCase {
                 return false
             for (let i = 0; i < list.count; ++i) {
                 const row = list.itemAtIndex(i)
-                if (row && !row.isHeader && row.brand !== chosen)
+                if (row && !row.isPlaceholder && row.brand !== chosen)
                     return false
             }
             return true
         }, 5000)
         shoot(container, "search-brand-filtered")
+
+        // Nothing found under the brand: the count line as ever, and how to widen the search below it.
+        typeSearch(container, "salmon")
+        keyClick(Qt.Key_Return)
+        const count = findChild(container, "countLine")
+        tryCompare(count, "text", "0 items matching your search", 5000)
+        verify(findChild(container, "filterResetHint").visible)
+        shoot(container, "search-nothing-under-a-filter")
     }
 
     function test_3_mealsTabListsSavedMeals() {

@@ -56,6 +56,26 @@ private slots:
         QCOMPARE(texts, QStringList{u""_s});
     }
 
+    void settlingDeliversAtOnceAndOnlyOnce()
+    {
+        TextFieldObserver observer;
+        QStringList texts;
+        connect(&observer, &TextFieldObserver::debouncedTextChanged, this,
+                [&] { texts.append(observer.debouncedText()); });
+        observer.setSearchText(u"apple"_s);
+        observer.settle();
+        QCOMPARE(texts, QStringList{u"apple"_s});
+        QTest::qWait(1200);
+        QCOMPARE(texts, QStringList{u"apple"_s}); // the pending pause was cancelled
+
+        QElapsedTimer sinceLastKey;
+        sinceLastKey.start();
+        observer.setSearchText(u"apples"_s); // typing after Enter waits again
+        QTRY_COMPARE_WITH_TIMEOUT(texts.size(), 2, 5000);
+        QVERIFY(sinceLastKey.elapsed() >= 990);
+        QCOMPARE(texts.last(), u"apples"_s);
+    }
+
     void theSameTextIsAnnouncedAgain()
     {
         TextFieldObserver observer;

@@ -30,8 +30,12 @@ class Look : public QObject
     Q_PROPERTY(int bodySize MEMBER m_bodySize CONSTANT)
     Q_PROPERTY(int calloutSize MEMBER m_calloutSize CONSTANT)
     Q_PROPERTY(int captionSize MEMBER m_captionSize CONSTANT)
+    /// Opacity of result rows while a new search replaces them; black on white stays readable.
+    Q_PROPERTY(qreal staleOpacity READ staleOpacity CONSTANT)
 
 public:
+    static constexpr qreal staleRowOpacity = 0.6;
+
     explicit Look(QObject *parent = nullptr);
     static Look *create(QQmlEngine *, QJSEngine *);
 
@@ -42,6 +46,7 @@ public:
     [[nodiscard]] QFont azoSans() const;
     [[nodiscard]] QFont arial() const;
     [[nodiscard]] QString symbolFont() const;
+    [[nodiscard]] qreal staleOpacity() const { return staleRowOpacity; }
 
     /// The glyph of a system symbol name in `symbolFont`.
     [[nodiscard]] Q_INVOKABLE QString symbol(const QString &name) const;

@@ -4,8 +4,9 @@ import QtQuick.Layouts
 import Nutrika
 
 // The search field: hands its owner the text once typing has paused for one second (finishTyping),
-// and turns a rotating arrows icon while the owner's search runs (isLoading).
-Rectangle {
+// and turns a rotating arrows icon while the owner's search runs (isLoading). Enter hands it over at
+// once. A focus scope, so focus given to the bar reaches the field.
+FocusScope {
     id: bar
 
     property bool isLoading: false
@@ -19,8 +20,6 @@ Rectangle {
 
     implicitWidth: 300
     implicitHeight: field.implicitHeight + 16
-    radius: 25
-    color: "white"
 
     // The loading icon appears and disappears with isLoading.
     onIsLoadingChanged: isAnimating = isLoading
@@ -29,6 +28,13 @@ Rectangle {
     Connections {
         target: bar.textObserver
         function onDebouncedTextChanged() { bar.finishTyping(bar.textObserver.debouncedText) }
+    }
+
+    Rectangle {
+        id: frame
+        anchors.fill: parent
+        radius: 25
+        color: "white"
     }
 
     RowLayout {
@@ -56,12 +62,14 @@ Rectangle {
             id: field
             objectName: "searchField"
             Layout.fillWidth: true
+            focus: true
             placeholderText: bar.placeholder
             placeholderTextColor: Look.lightGray
             color: "black"
             font: Look.azoSans
             text: bar.textObserver.searchText
             onTextEdited: bar.textObserver.searchText = text
+            onAccepted: bar.textObserver.settle()
             background: null
             Accessible.role: Accessible.EditableText
             Accessible.name: bar.placeholder
@@ -71,6 +79,6 @@ Rectangle {
 
     RoundedBorder {
         style: field.activeFocus ? Look.detailColor : Look.lightGray
-        cornerRadius: bar.radius
+        cornerRadius: frame.radius
     }
 }

@@ -23,12 +23,16 @@ public:
     [[nodiscard]] QString searchText() const { return m_searchText; }
     void setSearchText(const QString &text);
     [[nodiscard]] QString debouncedText() const { return m_debouncedText; }
+    /// Delivers the current text now instead of after the pause, as when the user presses Enter.
+    Q_INVOKABLE void settle();
 
 signals:
     void searchTextChanged();
     void debouncedTextChanged();
 
 private:
+    void deliver();
+
     QString m_searchText;
     QString m_debouncedText;
     // Owned by the observer: destroying it drops a pending delivery.

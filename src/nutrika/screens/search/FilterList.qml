@@ -20,10 +20,10 @@ Rectangle {
 
     implicitHeight: label.implicitHeight + 20
     color: "white"
-    opacity: enabledForText ? 1.0 : 0.5
     activeFocusOnTab: true
     Accessible.role: Accessible.ComboBox
     Accessible.name: title + ": " + (selectedFilterItem === "" ? qsTr("none") : selectedFilterItem)
+    Accessible.description: enabledForText ? "" : qsTr("Type a search first")
     Accessible.onPressAction: toggle()
     Keys.onReturnPressed: toggle()
     Keys.onEnterPressed: toggle()
@@ -42,11 +42,13 @@ Rectangle {
         id: label
         anchors.centerIn: parent
         spacing: 4
+        // Disabled is told by a lighter grey that still reads, not by fading the text.
         Text {
+            objectName: "filterLabel"
             text: filter.selectedFilterItem === "" ? filter.title : filter.selectedFilterItem
             font.pixelSize: Look.captionSize
             font.bold: true
-            color: "#595959"
+            color: filter.enabledForText ? "#595959" : Look.lightGray
             elide: Text.ElideRight
             width: Math.min(implicitWidth, filter.width - 40)
         }
@@ -54,7 +56,7 @@ Rectangle {
             text: Look.symbol("chevron.down")
             font.family: Look.symbolFont
             font.pixelSize: Look.captionSize
-            color: "#595959"
+            color: filter.enabledForText ? "#595959" : Look.lightGray
             Accessible.ignored: true
         }
     }
@@ -113,13 +115,31 @@ Rectangle {
                 Accessible.name: filter.title
                 Keys.onReturnPressed: doneOnKey()
                 Keys.onEnterPressed: doneOnKey()
+                // The wheel's content item is a PathView or a ListView, which both step their current
+                // index; the linter only knows it as an Item.
+                // qmllint disable type
+                Keys.onUpPressed: wheel.contentItem.decrementCurrentIndex()
+                Keys.onDownPressed: wheel.contentItem.incrementCurrentIndex()
                 function doneOnKey() {
                     sheet.close()
                     filter.done()
                 }
+                // The mouse wheel turns it one option per notch, as the arrow keys do.
+                WheelHandler {
+                    acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+                    onWheel: event => event.angleDelta.y > 0 ? wheel.contentItem.decrementCurrentIndex()
+                                                             : wheel.contentItem.incrementCurrentIndex()
+                }
+                // qmllint enable type
+                // Qt 6.4 cannot create every component bound to its file (ComponentBehavior: Bound), so the
+                // component below reaches ids outside it, which the linter counts as unqualified access.
+                // qmllint disable unqualified
                 delegate: Text {
+                    id: option
                     required property string modelData
-                    required property int index
+                    TapHandler {
+                        onTapped: filter.choose(option.modelData)
+                    }
                     text: modelData
                     font.pixelSize: Look.bodySize
                     color: "black"
@@ -127,6 +147,7 @@ Rectangle {
                     horizontalAlignment: Text.AlignHCenter
                     verticalAlignment: Text.AlignVCenter
                 }
+                // qmllint enable unqualified
             }
         }
     }

@@ -78,6 +78,21 @@ FocusScope {
             Accessible.name: text
         }
 
+        Text {
+            objectName: "filterResetHint"
+            Layout.fillWidth: true
+            Layout.leftMargin: 10
+            Layout.rightMargin: 10
+            Layout.bottomMargin: 10
+            visible: screen.uiView.filterResetHint !== ""
+            text: screen.uiView.filterResetHint
+            font.pixelSize: Look.calloutSize
+            color: "black"
+            wrapMode: Text.Wrap
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+        }
+
         ListView {
             id: results
             objectName: "results"
@@ -94,31 +109,33 @@ FocusScope {
             // Qt 6.4 cannot create every component bound to its file (ComponentBehavior: Bound), so the
             // components below reach ids outside them, which the linter counts as unqualified access.
             // qmllint disable unqualified
-            delegate: Loader {
-                id: rowLoader
+
+            // The header of the section in view stays at the top while its rows scroll under it.
+            section.property: "section"
+            section.labelPositioning: ViewSection.InlineLabels | ViewSection.CurrentLabelAtStart
+            section.delegate: ListHeader {
+                required property string section
+                objectName: "sectionHeader"
+                width: results.width
+                title: section
+            }
+
+            delegate: FoodResultRow {
                 required property int index
-                required property bool isHeader
-                required property string title
-                required property string brand
+                required property bool isPlaceholder
                 required property bool branded
                 required property int indexInSection
+                required title
+                required brand
                 width: results.width
-                sourceComponent: isHeader ? sectionHeader : foodRow
+                // An empty section keeps its header over a row of no height.
+                visible: !isPlaceholder
+                height: isPlaceholder ? 0 : implicitHeight
+                // Rows of the search before stay in view, dimmed, until the new reply replaces them.
+                opacity: screen.uiView.resultsStale ? Look.staleOpacity : 1
                 // A food row coming into view may be the last one: the view state decides whether to page.
-                Component.onCompleted: if (!isHeader) screen.uiView.rowAppeared(branded, indexInSection)
-
-                Component {
-                    id: sectionHeader
-                    ListHeader { title: rowLoader.title }
-                }
-                Component {
-                    id: foodRow
-                    FoodResultRow {
-                        title: rowLoader.title
-                        brand: rowLoader.brand
-                        onOpened: screen.uiView.selectRow(rowLoader.index)
-                    }
-                }
+                Component.onCompleted: if (!isPlaceholder) screen.uiView.rowAppeared(branded, indexInSection)
+                onOpened: screen.uiView.selectRow(index)
             }
             // qmllint enable unqualified
         }

@@ -18,6 +18,7 @@ void ItemSearchUIView::onFinishTyping(const QString &text)
     if (text == m_debouncedText)
         return;
     m_debouncedText = text;
+    ++m_textGeneration;
     emit debouncedTextChanged();
     if (text.isEmpty())
         return;
@@ -43,26 +44,29 @@ void ItemSearchUIView::loadSearchData()
     const FoodSearchQuery query{m_debouncedText, m_offset,
                                 m_brandFilterValue == ALL_BRANDS ? QString() : m_brandFilterValue,
                                 m_categoryFilterValue == ALL_CATEGORIES ? QString() : m_categoryFilterValue};
-    requestFoodSearch(*EnvironmentVariables::shared()->serviceClient(), query, this,
-                      [this, generation = m_generation](const ServiceResult<FoodSearchPage> &result) {
-                          if (generation != m_generation)
-                              return;
-                          m_pageInFlight.reset();
-                          setLoading(false);
-                          if (const auto *failure = std::get_if<ServiceFailure>(&result)) {
-                              const FailureMessage message = failureMessage(*failure);
-                              showError(message.body, message.title);
-                              return;
-                          }
-                          applyPage(std::get<FoodSearchPage>(result));
-                      });
+    const bool filtered = !query.foodBrand.isEmpty() || !query.foodCategory.isEmpty();
+    requestFoodSearch(
+        *EnvironmentVariables::shared()->serviceClient(), query, this,
+        [this, generation = m_generation, filtered](const ServiceResult<FoodSearchPage> &result) {
+            if (generation != m_generation)
+                return;
+            m_pageInFlight.reset();
+            setLoading(false);
+            if (const auto *failure = std::get_if<ServiceFailure>(&result)) {
+                const FailureMessage message = failureMessage(*failure);
+                showError(message.body, message.title);
+                return;
+            }
+            applyPage(std::get<FoodSearchPage>(result), filtered);
+        });
 }
 
-void ItemSearchUIView::applyPage(const FoodSearchPage &page)
+void ItemSearchUIView::applyPage(const FoodSearchPage &page, bool filtered)
 {
     // A first page replaces the lists when it arrives, so the old results stay visible until then.
     if (m_offset == 0)
         m_results.clear();
+    m_countFiltered = filtered;
     m_numSearchResults = page.count;
     emit numSearchResultsChanged();
     m_results.append(page.generic, page.branded);
@@ -73,8 +77,8 @@ void ItemSearchUIView::applyPage(const FoodSearchPage &page)
 void ItemSearchUIView::getFilterOptions()
 {
     requestFilterOptions(*EnvironmentVariables::shared()->serviceClient(), m_debouncedText, this,
-                         [this, generation = m_generation](const std::optional<FilterOptions> &options) {
-                             if (generation != m_generation || !options)
+                         [this, generation = m_textGeneration](const std::optional<FilterOptions> &options) {
+                             if (generation != m_textGeneration || !options)
                                  return;
                              m_brandOptions = QStringList{ALL_BRANDS} + options->brands;
                              m_categoryOptions = QStringList{ALL_CATEGORIES} + options->categories;
@@ -122,6 +126,14 @@ QString ItemSearchUIView::countText() const
         return {};
     return u"%1 %2 matching your search"_s.arg(QString::number(m_numSearchResults),
                                                m_numSearchResults == 1 ? u"item"_s : u"items"_s);
+}
+
+QString ItemSearchUIView::filterResetHint() const
+{
+    if (m_debouncedText.isEmpty() || m_numSearchResults != 0 || !m_countFiltered)
+        return {};
+    return u"A brand or category filter is set. Choose “%1” or “%2” to search without it."_s.arg(
+        ALL_BRANDS, ALL_CATEGORIES);
 }
 
 void ItemSearchUIView::setBrandFilterValue(const QString &value)

@@ -20,10 +20,14 @@ class ItemSearchUIView : public QObject
     QML_ELEMENT
     Q_PROPERTY(QString debouncedText READ debouncedText NOTIFY debouncedTextChanged)
     Q_PROPERTY(bool isLoading READ isLoading NOTIFY isLoadingChanged)
+    /// A new search is on its way: the rows shown belong to the one before and are about to be replaced.
+    Q_PROPERTY(bool resultsStale READ resultsStale NOTIFY isLoadingChanged)
     Q_PROPERTY(nutrika::SearchResultsModel *results READ results CONSTANT)
     Q_PROPERTY(qint64 numSearchResults READ numSearchResults NOTIFY numSearchResultsChanged)
     /// "N items matching your search"; "" while there is no text.
     Q_PROPERTY(QString countText READ countText NOTIFY countTextChanged)
+    /// Under a count of 0 from a search narrowed by brand or category, how to widen it; "" otherwise.
+    Q_PROPERTY(QString filterResetHint READ filterResetHint NOTIFY countTextChanged)
     Q_PROPERTY(QStringList brandOptions READ brandOptions NOTIFY brandOptionsChanged)
     Q_PROPERTY(QStringList categoryOptions READ categoryOptions NOTIFY categoryOptionsChanged)
     Q_PROPERTY(QString brandFilterValue READ brandFilterValue WRITE setBrandFilterValue NOTIFY
@@ -61,11 +65,13 @@ public:
 
     [[nodiscard]] const QString &debouncedText() const { return m_debouncedText; }
     [[nodiscard]] bool isLoading() const { return m_isLoading; }
+    [[nodiscard]] bool resultsStale() const { return m_isLoading && m_pageInFlight == 0; }
     [[nodiscard]] SearchResultsModel *results() { return &m_results; }
     [[nodiscard]] const QList<FoodItem> &nonBrandedResults() const { return m_results.nonBranded(); }
     [[nodiscard]] const QList<FoodItem> &brandedResults() const { return m_results.branded(); }
     [[nodiscard]] qint64 numSearchResults() const { return m_numSearchResults; }
     [[nodiscard]] QString countText() const;
+    [[nodiscard]] QString filterResetHint() const;
     [[nodiscard]] const QStringList &brandOptions() const { return m_brandOptions; }
     [[nodiscard]] const QStringList &categoryOptions() const { return m_categoryOptions; }
     [[nodiscard]] const QString &brandFilterValue() const { return m_brandFilterValue; }
@@ -96,12 +102,14 @@ signals:
 private:
     void restartSearch();
     void setLoading(bool loading);
-    void applyPage(const FoodSearchPage &page);
+    void applyPage(const FoodSearchPage &page, bool filtered);
 
     QString m_debouncedText;
     bool m_isLoading = false;
     SearchResultsModel m_results;
     qint64 m_numSearchResults = 0;
+    // The search that gave the count was narrowed by a brand or a category.
+    bool m_countFiltered = false;
     QStringList m_brandOptions;
     QStringList m_categoryOptions;
     QString m_brandFilterValue;
@@ -114,6 +122,8 @@ private:
     // Replies to an earlier text or filter choice are dropped, so a slow old reply never overwrites
     // newer results; and a page already on its way is not asked for twice.
     quint64 m_generation = 0;
+    // The filter options depend on the text alone: only a new text makes their reply stale.
+    quint64 m_textGeneration = 0;
     std::optional<qint64> m_pageInFlight;
 };
 

@@ -6,30 +6,31 @@ namespace nutrika {
 
 int SearchResultsModel::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : int(m_nonBranded.size() + m_branded.size()) + 2;
+    return parent.isValid() ? 0 : m_nonBranded.rows() + m_branded.rows();
 }
 
 const FoodItem *SearchResultsModel::foodAt(int row) const
 {
-    if (row > 0 && row < brandedHeaderRow())
-        return &m_nonBranded.at(row - 1);
-    if (row > brandedHeaderRow() && row < rowCount())
-        return &m_branded.at(row - brandedHeaderRow() - 1);
-    return nullptr;
+    if (row < 0)
+        return nullptr;
+    const bool inBranded = row >= brandedFirstRow();
+    const QList<FoodItem> &foods = inBranded ? m_branded.foods : m_nonBranded.foods;
+    const int indexInSection = inBranded ? row - brandedFirstRow() : row;
+    return indexInSection < foods.size() ? &foods.at(indexInSection) : nullptr;
 }
 
 QVariant SearchResultsModel::data(const QModelIndex &index, int role) const
 {
     const int row = index.row();
-    const bool inBranded = row >= brandedHeaderRow();
+    const bool inBranded = row >= brandedFirstRow();
     const FoodItem *food = foodAt(row);
     switch (role) {
-    case IsHeaderRole:
+    case IsPlaceholderRole:
         return food == nullptr;
-    case TitleRole:
-        if (food)
-            return food->description;
+    case SectionRole:
         return inBranded ? u"Branded"_s : u"Non-Branded"_s;
+    case TitleRole:
+        return food ? food->description : QString();
     case BrandRole:
         return food ? food->brand : QString();
     case FoodIdRole:
@@ -37,7 +38,7 @@ QVariant SearchResultsModel::data(const QModelIndex &index, int role) const
     case BrandedRole:
         return inBranded;
     case IndexInSectionRole:
-        return inBranded ? row - brandedHeaderRow() - 1 : row - 1;
+        return inBranded ? row - brandedFirstRow() : row;
     default:
         return {};
     }
@@ -45,33 +46,44 @@ QVariant SearchResultsModel::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> SearchResultsModel::roleNames() const
 {
-    return {{IsHeaderRole, "isHeader"}, {TitleRole, "title"},     {BrandRole, "brand"},
-            {FoodIdRole, "foodId"},     {BrandedRole, "branded"}, {IndexInSectionRole, "indexInSection"}};
+    return {{IsPlaceholderRole, "isPlaceholder"},
+            {SectionRole, "section"},
+            {TitleRole, "title"},
+            {BrandRole, "brand"},
+            {FoodIdRole, "foodId"},
+            {BrandedRole, "branded"},
+            {IndexInSectionRole, "indexInSection"}};
 }
 
 void SearchResultsModel::clear()
 {
-    if (m_nonBranded.isEmpty() && m_branded.isEmpty())
+    if (m_nonBranded.placeholder && m_branded.placeholder)
         return;
     beginResetModel();
-    m_nonBranded.clear();
-    m_branded.clear();
+    m_nonBranded = {};
+    m_branded = {};
     endResetModel();
 }
 
 void SearchResultsModel::append(const QList<FoodItem> &nonBranded, const QList<FoodItem> &branded)
 {
-    if (!nonBranded.isEmpty()) {
-        const int first = brandedHeaderRow();
-        beginInsertRows({}, first, first + int(nonBranded.size()) - 1);
-        m_nonBranded.append(nonBranded);
-        endInsertRows();
-    }
-    if (!branded.isEmpty()) {
-        const int first = rowCount();
-        beginInsertRows({}, first, first + int(branded.size()) - 1);
-        m_branded.append(branded);
-        endInsertRows();
+    appendTo(m_nonBranded, 0, nonBranded);
+    appendTo(m_branded, brandedFirstRow(), branded);
+}
+
+void SearchResultsModel::appendTo(Section &section, int firstRow, const QList<FoodItem> &foods)
+{
+    if (foods.isEmpty())
+        return;
+    const int first = firstRow + int(section.foods.size());
+    beginInsertRows({}, first, first + int(foods.size()) - 1);
+    section.foods.append(foods);
+    endInsertRows();
+    if (section.placeholder) {
+        const int placeholderRow = first + int(foods.size());
+        beginRemoveRows({}, placeholderRow, placeholderRow);
+        section.placeholder = false;
+        endRemoveRows();
     }
 }
 

@@ -7,8 +7,8 @@
 
 namespace nutrika {
 
-/// The food search results as one list for the view: the "Non-Branded" header and its foods, then the
-/// "Branded" header and its foods. Both headers are always there, also over an empty section.
+/// The food search results as one list for the view, in two sections: "Non-Branded" foods, then "Branded"
+/// ones. An empty section holds one placeholder row, so the view still shows its header.
 class SearchResultsModel : public QAbstractListModel
 {
     Q_OBJECT
@@ -18,7 +18,8 @@ class SearchResultsModel : public QAbstractListModel
 public:
     enum Role
     {
-        IsHeaderRole = Qt::UserRole + 1,
+        IsPlaceholderRole = Qt::UserRole + 1,
+        SectionRole,
         TitleRole,
         BrandRole,
         FoodIdRole,
@@ -32,19 +33,28 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
-    [[nodiscard]] const QList<FoodItem> &nonBranded() const { return m_nonBranded; }
-    [[nodiscard]] const QList<FoodItem> &branded() const { return m_branded; }
-    /// The food at a row of the view, or nullptr on a header.
+    [[nodiscard]] const QList<FoodItem> &nonBranded() const { return m_nonBranded.foods; }
+    [[nodiscard]] const QList<FoodItem> &branded() const { return m_branded.foods; }
+    /// The food at a row of the view, or nullptr on a placeholder.
     [[nodiscard]] const FoodItem *foodAt(int row) const;
 
     void clear();
     void append(const QList<FoodItem> &nonBranded, const QList<FoodItem> &branded);
 
 private:
-    [[nodiscard]] int brandedHeaderRow() const { return int(m_nonBranded.size()) + 1; }
+    struct Section
+    {
+        QList<FoodItem> foods;
+        // Shown after the foods while there are none.
+        bool placeholder = true;
+        [[nodiscard]] int rows() const { return int(foods.size()) + (placeholder ? 1 : 0); }
+    };
 
-    QList<FoodItem> m_nonBranded;
-    QList<FoodItem> m_branded;
+    [[nodiscard]] int brandedFirstRow() const { return m_nonBranded.rows(); }
+    void appendTo(Section &section, int firstRow, const QList<FoodItem> &foods);
+
+    Section m_nonBranded;
+    Section m_branded;
 };
 
 } // namespace nutrika
