@@ -58,8 +58,8 @@ TestCase {
         tryVerify(() => {
             for (let i = 0; i < list.count; ++i) {
                 const item = list.itemAtIndex(i)
-                if (item && item.item && item.item.title === title) {
-                    row = item.item
+                if (item && item.title === title) {
+                    row = item
                     return true
                 }
             }

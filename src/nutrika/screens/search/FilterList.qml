@@ -115,30 +115,34 @@ Rectangle {
                 Accessible.name: filter.title
                 Keys.onReturnPressed: doneOnKey()
                 Keys.onEnterPressed: doneOnKey()
-                // The wheel's content item is a PathView or a ListView, which both step their current
-                // index; the linter only knows it as an Item.
-                // qmllint disable type
-                Keys.onUpPressed: wheel.contentItem.decrementCurrentIndex()
-                Keys.onDownPressed: wheel.contentItem.incrementCurrentIndex()
+                Keys.onUpPressed: step(-1)
+                Keys.onDownPressed: step(1)
                 function doneOnKey() {
                     sheet.close()
                     filter.done()
                 }
+                // One option up or down, reported to the owner, whose value moves the wheel back here.
+                function step(delta) {
+                    const next = Math.max(0, Math.min(filter.options.length - 1, currentIndex + delta))
+                    if (next !== currentIndex)
+                        filter.choose(filter.options[next])
+                }
                 // The mouse wheel turns it one option per notch, as the arrow keys do.
                 WheelHandler {
                     acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
-                    onWheel: event => event.angleDelta.y > 0 ? wheel.contentItem.decrementCurrentIndex()
-                                                             : wheel.contentItem.incrementCurrentIndex()
+                    onWheel: event => wheel.step(event.angleDelta.y > 0 ? -1 : 1)
                 }
-                // qmllint enable type
                 // Qt 6.4 cannot create every component bound to its file (ComponentBehavior: Bound), so the
                 // component below reaches ids outside it, which the linter counts as unqualified access.
                 // qmllint disable unqualified
                 delegate: Text {
                     id: option
                     required property string modelData
-                    TapHandler {
-                        onTapped: filter.choose(option.modelData)
+                    objectName: "filterOption " + modelData
+                    // A press the wheel's view would otherwise take for the start of a drag.
+                    MouseArea {
+                        anchors.fill: parent
+                        onClicked: filter.choose(option.modelData)
                     }
                     text: modelData
                     font.pixelSize: Look.bodySize

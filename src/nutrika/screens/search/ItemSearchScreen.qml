@@ -113,6 +113,7 @@ FocusScope {
             // The header of the section in view stays at the top while its rows scroll under it.
             section.property: "section"
             section.labelPositioning: ViewSection.InlineLabels | ViewSection.CurrentLabelAtStart
+
             section.delegate: ListHeader {
                 required property string section
                 objectName: "sectionHeader"

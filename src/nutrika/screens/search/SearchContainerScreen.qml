@@ -54,7 +54,11 @@ FocusScope {
     // qmllint disable unqualified
     Component {
         id: foodSearch
-        ItemSearchScreen { navigation: screen.navigation }
+        // The loaded screen takes the Loader's focus, so typing reaches the search field at once.
+        ItemSearchScreen {
+            navigation: screen.navigation
+            focus: true
+        }
     }
     Component {
         id: mealSearch
