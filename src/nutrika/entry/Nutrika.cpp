@@ -2,11 +2,13 @@
 
 #include "CarbCounterUIView.h"
 #include "EnvironmentVariables.h"
+#include "ItemTeardown.h"
 #include "Look.h"
 
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQmlExtensionPlugin>
+#include <QQuickItem>
 #include <QQuickWidget>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -17,6 +19,23 @@ Q_IMPORT_QML_PLUGIN(NutrikaPlugin)
 using namespace Qt::Literals::StringLiterals;
 
 namespace nutrika {
+
+namespace {
+
+// The module's view deletes its items directly, not through the event loop: hide them first.
+class ModuleView : public QQuickWidget
+{
+public:
+    using QQuickWidget::QQuickWidget;
+    ~ModuleView() override
+    {
+        if (QQuickItem *root = rootObject())
+            hideForTeardown(root);
+    }
+    Q_DISABLE_COPY_MOVE(ModuleView)
+};
+
+} // namespace
 
 void prepareNutrikaEngine(QQmlEngine &engine)
 {
@@ -30,7 +49,7 @@ QWidget *initNutrika(const QString &apiKey, std::function<void()> onDismissCallb
     auto *container = new QWidget;
     container->setWindowTitle(u"Nutrika"_s);
     container->setAccessibleName(u"Nutrika carbohydrate calculator"_s);
-    auto *view = new QQuickWidget(container);
+    auto *view = new ModuleView(container);
     // A child of the view, so it outlives the QML root that the view deletes first.
     auto *calculator = new CarbCounterUIView(std::move(onDismissCallback), view);
     view->setResizeMode(QQuickWidget::SizeRootObjectToView);

@@ -1,5 +1,7 @@
 #include "EnvironmentVariables.h"
 
+#include "ItemTeardown.h"
+
 #include <QCoreApplication>
 #include <QJSEngine>
 #include <QThread>
@@ -24,6 +26,8 @@ EnvironmentVariables *EnvironmentVariables::shared()
 
 EnvironmentVariables *EnvironmentVariables::create(QQmlEngine *, QJSEngine *)
 {
+    // Every host's QML reaches the session first: the module's items are torn down safely from then on.
+    guardItemTeardown();
     return shared();
 }
 
