@@ -1,6 +1,7 @@
 // Reads and writes 1,000 saved meals of 10 lines each through the preferences store, beside the floor:
 // a bare QJsonDocument::fromJson of the same bytes.
 #include "ExampleData.h"
+#include "Preferences.h"
 #include "RecipeDocument.h"
 #include "RecipeStore.h"
 
@@ -58,8 +59,12 @@ int main(int argc, char **argv)
     for (qint64 id = 0; id < 1000; ++id)
         meals.append(mealOfTenLines(id));
     const QByteArray document = encodeRecipeDocument(meals);
-    for (const RecipeItem &meal : meals)
-        saveRecipe(meal);
+    {
+        Preferences settings;
+        settings.setValue(QStringLiteral("recipes"), document);
+    }
+    if (getRecipes().size() != 1000)
+        std::abort();
 
     const int runs = 15;
     const double floorMs = medianMs(runs, [&] { (void)QJsonDocument::fromJson(document); });
@@ -67,6 +72,7 @@ int main(int argc, char **argv)
         if (getRecipes().size() != 1000)
             std::abort();
     });
+    // "Save Meal" on a stored meal: the editor's save of meal 500 of 1000, replaced in place.
     qint64 revision = 0;
     const double saveMs = medianMs(runs, [&] {
         RecipeItem changed = mealOfTenLines(500);
@@ -75,12 +81,12 @@ int main(int argc, char **argv)
     });
 
     FILE *out = fdopen(report, "w");
-    std::fprintf(out, "saved meals: 1000 x 10 lines, document %lld bytes\n",
-                 static_cast<long long>(document.size()));
+    std::fprintf(out, "saved meals: 1000 x 10 lines, document %lld bytes, median of %d runs\n",
+                 static_cast<long long>(document.size()), runs);
     std::fprintf(out, "floor  QJsonDocument::fromJson  %8.2f ms\n", floorMs);
     std::fprintf(out, "getRecipes                      %8.2f ms  %.2fx floor (goal <= 2x)\n", getMs,
                  getMs / floorMs);
-    std::fprintf(out, "saveRecipe                      %8.2f ms  %.2fx floor (goal <= 4x)\n", saveMs,
+    std::fprintf(out, "Save Meal (saveRecipe)          %8.2f ms  %.2fx floor (goal <= 3x)\n", saveMs,
                  saveMs / floorMs);
     std::fclose(out);
     return 0;

@@ -30,6 +30,12 @@ public:
 
     static void clear() { storeRaw(QVariant()); }
 
+    /// The meal document exactly as stored.
+    [[nodiscard]] static QByteArray storedDocument()
+    {
+        return nutrika::Preferences().valueOnDisk(QStringLiteral("recipes")).toByteArray();
+    }
+
     /// Overwrites the whole preferences file, as a crash of the disk or another program might.
     static void overwriteFile(const QByteArray &bytes)
     {

@@ -4,6 +4,8 @@
 #include "StdoutCapture.h"
 #include "StoreFixture.h"
 
+#include <QElapsedTimer>
+#include <QFile>
 #include <QJsonDocument>
 #include <QRandomGenerator>
 #include <QTest>
@@ -37,6 +39,18 @@ QByteArray randomBytes(int size)
     for (char &c : bytes)
         c = char(gen.bounded(256));
     return bytes;
+}
+
+QByteArray compact(const RecipeItem &recipe)
+{
+    return QJsonDocument(recipe.toJson()).toJson(QJsonDocument::Compact);
+}
+
+/// Meals laid out in one array the way another writer might: `lead` after "[", `between` the meals.
+QByteArray layout(const QByteArrayList &meals, const QByteArray &lead, const QByteArray &between,
+                  const QByteArray &trail)
+{
+    return '[' + lead + meals.join(between) + trail + ']';
 }
 
 QByteArray storedMealWith(const char *key, const QJsonValue &value)
@@ -96,6 +110,112 @@ private slots:
             QCOMPARE(lines.at(1), updateLine);
         // The last line is the whole list as stored.
         QCOMPARE(QJsonDocument::fromJson(lines.last()).array().size(), expected.size());
+    }
+
+    void savedMealIsSplicedAndOtherMealsKeepTheirBytes_data()
+    {
+        QTest::addColumn<QByteArrayList>("meals");
+        QTest::addColumn<QByteArray>("document");
+        QTest::addColumn<qint64>("id");
+        QTest::addColumn<QString>("name");
+
+        const QStringList awkward{u"Quote \" in"_s,   u"Bracket ] in"_s, u"Ends in backslash \\"_s,
+                                  u"Brace } and {"_s, u"Two\nlines"_s,   u"Emoji \U0001F35D\U0001F963"_s};
+        QByteArrayList neighbours;
+        for (qsizetype i = 0; i < awkward.size(); ++i)
+            neighbours << compact(meal(i, awkward.at(i)));
+        for (qsizetype i = 0; i < awkward.size(); ++i) {
+            const QByteArray document = layout(neighbours, {}, ",", {});
+            QTest::addRow("replace, name %lld", qlonglong(i))
+                << neighbours << document << qint64(i) << awkward.at((i + 1) % awkward.size());
+        }
+        QTest::newRow("append after awkward names")
+            << neighbours << layout(neighbours, {}, ",", {}) << qint64(neighbours.size()) << awkward.last();
+
+        // Indented, keys in another order, escapes where a plain character would do, CR LF and tabs.
+        const QByteArrayList written{
+            QJsonDocument(meal(0, u"Indented ]}"_s).toJson()).toJson(QJsonDocument::Indented).trimmed(),
+            R"({ "servings" : 2 , "items" : [ ] , "id" : 1 , "name" : "Esc \"\\\/ \u00e9 \ud83c\udf5d ]}" })",
+            QJsonDocument(meal(2, u"\\"_s).toJson()).toJson(QJsonDocument::Indented).trimmed()};
+        const QByteArray indented = layout(written, "\r\n  ", ",\r\n\t", "\n");
+        for (const qint64 id : {0, 1, 2, 3})
+            QTest::addRow("another writer's layout, id %lld", qlonglong(id))
+                << written << indented << id << awkward.at(id);
+
+        QByteArrayList thousand;
+        for (qint64 id = 0; id < 1000; ++id)
+            thousand << compact(meal(id, u"Meal %1"_s.arg(id)));
+        const QByteArray large = layout(thousand, {}, ",", {});
+        for (const qint64 id : {0, 500, 999, 1000})
+            QTest::addRow("1000 meals, id %lld", qlonglong(id))
+                << thousand << large << id << awkward.at(id % 6);
+    }
+
+    void savedMealIsSplicedAndOtherMealsKeepTheirBytes()
+    {
+        QFETCH(QByteArrayList, meals);
+        QFETCH(QByteArray, document);
+        QFETCH(qint64, id);
+        QFETCH(QString, name);
+        StoreFixture::storeRaw(document);
+        QCOMPARE(getRecipes().size(), meals.size());
+
+        const RecipeItem saved = meal(id, name, 4);
+        {
+            StdoutCapture quiet;
+            saveRecipe(saved);
+        }
+        const QByteArray stored = StoreFixture::storedDocument();
+        if (id < meals.size()) {
+            QCOMPARE(stored, QByteArray(document).replace(meals.at(id), compact(saved)));
+        } else {
+            const qsizetype lastMealEnd = document.lastIndexOf(meals.last()) + meals.last().size();
+            QVERIFY(stored.startsWith(document.left(lastMealEnd)));
+        }
+        const QList<RecipeItem> recipes = getRecipes();
+        QCOMPARE(recipes.size(), std::max(meals.size(), qsizetype(id + 1)));
+        QCOMPARE(recipes.at(id).toJson(), saved.toJson());
+    }
+
+    void mealJsonCannotHoldKeepsTheStore_data()
+    {
+        QTest::addColumn<qint64>("id");
+        QTest::addColumn<double>("carbs");
+        QTest::newRow("NaN, replacing") << qint64(1) << qQNaN();
+        QTest::newRow("infinity, appending") << qint64(2) << qInf();
+    }
+
+    void mealJsonCannotHoldKeepsTheStore()
+    {
+        QFETCH(qint64, id);
+        QFETCH(double, carbs);
+        saveRecipe(meal(0, QStringLiteral("A")));
+        saveRecipe(meal(1, QStringLiteral("B")));
+        const QByteArray before = StoreFixture::storedDocument();
+
+        const NutrientValue tracked{u"Carbohydrates"_s, u"grams"_s, carbs, 1};
+        const RecipeItem broken{
+            u"Broken"_s,
+            id,
+            {DiaryEntryPtr::create(123, example::examplePortionItem(), example::exampleSelectedFood(), 1,
+                                   std::nullopt, tracked)},
+            1};
+        saveRecipe(broken);
+        QCOMPARE(StoreFixture::storedDocument(), before);
+        QCOMPARE(names(getRecipes()), (QStringList{u"0:A"_s, u"1:B"_s}));
+    }
+
+    void abandonedEmptyLockDoesNotStallASave()
+    {
+        // What a process killed between creating the settings lock and writing its owner leaves.
+        QFile lock(Preferences().fileName() + u".lock"_s);
+        QVERIFY(lock.open(QIODevice::WriteOnly));
+        lock.close();
+        QElapsedTimer timer;
+        timer.start();
+        saveRecipe(meal(0, QStringLiteral("After a crash")));
+        QCOMPARE_LT(timer.elapsed(), 10000);
+        QCOMPARE(names(getRecipes()), QStringList{u"0:After a crash"_s});
     }
 
     void linesRoundTripWithEveryField()

@@ -37,12 +37,53 @@ private slots:
         QCOMPARE(recipes.at(11).name, QStringLiteral("Meal 11 rev 0"));
     }
 
+    void twoProcessesEachKeepTheirOwnLastSave()
+    {
+        QProcess *setup = startWriter({QStringLiteral("save"), QStringLiteral("12")});
+        QVERIFY(setup->waitForFinished(30000));
+        const QList<RecipeItem> before = getRecipes();
+        QCOMPARE(before.size(), 12);
+
+        const QList<qint64> owned{3, 8};
+        const int rounds = 150;
+        QList<QProcess *> writers;
+        for (const qint64 id : owned)
+            writers << startWriter({QStringLiteral("own"), QString::number(id), QString::number(rounds)});
+        for (QProcess *writer : writers)
+            QVERIFY(writer->waitForStarted(30000));
+        for (QProcess *writer : writers) {
+            writer->write("\n");
+            writer->closeWriteChannel();
+        }
+        for (QProcess *writer : writers) {
+            QVERIFY(writer->waitForFinished(120000));
+            QVERIFY2(writer->exitCode() == 0, writer->readAllStandardError().constData());
+        }
+
+        const QList<RecipeItem> after = getRecipes();
+        QCOMPARE(after.size(), before.size());
+        for (qsizetype i = 0; i < after.size(); ++i) {
+            if (owned.contains(i))
+                QCOMPARE(after.at(i).name, QStringLiteral("Meal %1 rev %2").arg(i).arg(rounds));
+            else
+                QCOMPARE(after.at(i).toJson(), before.at(i).toJson());
+        }
+    }
+
+    void killedWhileSavingLeavesAWholeDocument_data()
+    {
+        QTest::addColumn<QString>("mode");
+        QTest::newRow("store calls") << QStringLiteral("loop");
+        QTest::newRow("meal editor") << QStringLiteral("edit");
+    }
+
     void killedWhileSavingLeavesAWholeDocument()
     {
+        QFETCH(QString, mode);
         static const QRegularExpression name(QStringLiteral("^Meal (\\d+) rev (\\d+)$"));
         qsizetype before = 0;
         for (int round = 0; round < 15; ++round) {
-            QProcess *writer = startWriter({QStringLiteral("loop")});
+            QProcess *writer = startWriter({mode});
             QVERIFY(writer->waitForReadyRead(30000));
             QTest::qWait(QRandomGenerator::global()->bounded(5, 120));
             ::kill(pid_t(writer->processId()), SIGKILL);
@@ -57,7 +98,9 @@ private slots:
                 QVERIFY(match.hasMatch());
                 QCOMPARE(match.captured(1).toLongLong(), i);
                 QCOMPARE(recipes.at(i).id, i);
-                QCOMPARE(recipes.at(i).items.size(), 1 + match.captured(2).toLongLong() % 7);
+                const qint64 revision = match.captured(2).toLongLong();
+                QCOMPARE(recipes.at(i).items.size(), 1 + revision % 7);
+                QCOMPARE(recipes.at(i).servings, 1 + revision % 4);
             }
             before = recipes.size();
             delete writer;

@@ -1,6 +1,7 @@
 #include "Preferences.h"
 
 #include <QDataStream>
+#include <QFile>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -41,6 +42,15 @@ QSettings::Format preferencesFormat()
 
 Preferences::Preferences() : QSettings(preferencesFormat(), QSettings::UserScope, u"Nutrika"_s, u"nutrika"_s)
 {
+}
+
+QVariant Preferences::valueOnDisk(const QString &key) const
+{
+    QFile file(fileName());
+    QSettings::SettingsMap map;
+    if (!file.open(QIODevice::ReadOnly) || !readPreferences(file, map))
+        return {};
+    return map.value(key);
 }
 
 } // namespace nutrika

@@ -10,6 +10,10 @@ class Preferences : public QSettings
 {
 public:
     Preferences();
+
+    /// The value under `key` as the file holds it now. QSettings rereads its file only when the size or
+    /// the millisecond of the last change differs, so it can miss a same-sized write by another process.
+    [[nodiscard]] QVariant valueOnDisk(const QString &key) const;
 };
 
 } // namespace nutrika

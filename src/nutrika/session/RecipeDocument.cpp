@@ -69,8 +69,8 @@ QList<std::pair<qsizetype, qsizetype>> topLevelObjects(const QByteArray &array)
     return spans;
 }
 
-} // namespace
-
+/// Replaces the meal at `index` of a document that decoded to a non-empty list, or appends after the
+/// last meal when `index` is the number of meals. The other meals keep their bytes.
 QByteArray spliceRecipeDocument(const QByteArray &document, qsizetype index, const QByteArray &meal)
 {
     const auto spans = topLevelObjects(document);
@@ -80,6 +80,44 @@ QByteArray spliceRecipeDocument(const QByteArray &document, qsizetype index, con
     }
     const qsizetype close = spans.last().second;
     return document.left(close) + ',' + meal + document.mid(close);
+}
+
+bool readsBack(const QByteArray &meal)
+{
+    try {
+        (void)RecipeItem::fromJson(QJsonDocument::fromJson(meal).object());
+        return true;
+    } catch (const std::exception &) {
+        return false;
+    }
+}
+
+} // namespace
+
+RecipeSave saveIntoRecipeDocument(const QByteArray &stored, const RecipeItem &recipe)
+{
+    RecipeSave save;
+    save.meal = QJsonDocument(recipe.toJson()).toJson(QJsonDocument::Compact);
+    const QList<RecipeItem> list = decodeRecipeDocument(stored).value_or(QList<RecipeItem>());
+    save.appended = recipe.id == list.size();
+    if (save.appended) {
+        save.index = list.size();
+    } else {
+        const auto found = std::find_if(list.cbegin(), list.cend(),
+                                        [&recipe](const RecipeItem &saved) { return saved.id == recipe.id; });
+        save.index = found == list.cend() ? -1 : found - list.cbegin();
+    }
+
+    // JSON has no NaN or infinity; such a value comes out as null, and the next read would find the
+    // whole document unreadable and the next save would write over every meal in it.
+    if (!readsBack(save.meal))
+        return save;
+    // An empty list is written afresh: it may stand for an unreadable document.
+    if (list.isEmpty())
+        save.document = save.index == 0 ? '[' + save.meal + ']' : QByteArray("[]");
+    else
+        save.document = save.index < 0 ? stored : spliceRecipeDocument(stored, save.index, save.meal);
+    return save;
 }
 
 } // namespace nutrika

@@ -15,10 +15,22 @@ namespace nutrika {
 /// Encodes meals as one compact JSON array, in list order.
 [[nodiscard]] QByteArray encodeRecipeDocument(const QList<RecipeItem> &recipes);
 
-/// Replaces the meal at `index` of a document that decoded to a non-empty list with the encoded `meal`,
-/// or appends it when `index` is the number of meals. The other meals keep their bytes, so a save does
-/// not re-encode the whole list.
-[[nodiscard]] QByteArray spliceRecipeDocument(const QByteArray &document, qsizetype index,
-                                              const QByteArray &meal);
+/// What saving one meal makes of the stored document.
+struct RecipeSave
+{
+    /// The meal as it is written into the document.
+    QByteArray meal;
+    /// Whether the meal's id is the number of stored meals, so that it is appended without a search.
+    bool appended = false;
+    /// Where the meal goes in the list; -1 when no stored meal has its id.
+    qsizetype index = -1;
+    /// The bytes to store; nullopt when the meal would not read back (a number that JSON cannot hold),
+    /// so that the stored meals are kept rather than written over by a document nobody can read.
+    std::optional<QByteArray> document;
+};
+
+/// Saves `recipe` into the `stored` document: appended when its id equals the number of stored meals,
+/// otherwise in place of the stored meal with its id. A document that does not decode counts as no meals.
+[[nodiscard]] RecipeSave saveIntoRecipeDocument(const QByteArray &stored, const RecipeItem &recipe);
 
 } // namespace nutrika

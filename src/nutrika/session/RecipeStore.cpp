@@ -4,9 +4,13 @@
 #include "Preferences.h"
 #include "RecipeDocument.h"
 
+#include <cerrno>
+#include <fcntl.h>
+#include <QDir>
 #include <QFile>
-#include <QJsonDocument>
+#include <QFileInfo>
 #include <sys/file.h>
+#include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -16,27 +20,41 @@ namespace {
 
 const QString recipesKey = u"recipes"_s;
 
-struct StoredRecipes
+QByteArray storedDocument(const Preferences &settings)
 {
-    QByteArray document;
-    QList<RecipeItem> recipes;
-};
-
-StoredRecipes readStore()
-{
-    const QVariant stored = Preferences().value(recipesKey);
-    if (stored.typeId() != QMetaType::QByteArray)
-        return {};
-    QByteArray document = stored.toByteArray();
-    std::optional<QList<RecipeItem>> recipes = decodeRecipeDocument(document);
-    if (!recipes)
-        return {};
-    return {std::move(document), std::move(*recipes)};
+    const QVariant stored = settings.valueOnDisk(recipesKey);
+    return stored.typeId() == QMetaType::QByteArray ? stored.toByteArray() : QByteArray();
 }
 
-// The settings lock file is created empty and the owner is written into it a moment later. A process
-// killed in between leaves an empty file that would stall the next save for half a minute; the owner's
-// flock died with it, so an empty file we can flock is abandoned.
+/// Lets one save at a time, across processes, read, change and write the document; otherwise two
+/// processes saving at once would each write back a list without the other's meal. The file is never
+/// removed, so every saver locks the same one, and the kernel releases the lock of a killed holder.
+class SaveLock
+{
+public:
+    explicit SaveLock(const QString &settingsFile)
+    {
+        QDir().mkpath(QFileInfo(settingsFile).absolutePath());
+        m_fd = ::open(QFile::encodeName(settingsFile + u".save-lock"_s).constData(),
+                      O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+        while (m_fd >= 0 && ::flock(m_fd, LOCK_EX) != 0 && errno == EINTR) {
+        }
+    }
+    ~SaveLock()
+    {
+        if (m_fd >= 0)
+            ::close(m_fd);
+    }
+    Q_DISABLE_COPY_MOVE(SaveLock)
+
+private:
+    int m_fd = -1;
+};
+
+// QSettings creates its lock file empty and writes the owner into it a moment later. A process killed in
+// between leaves an empty file that would stall the next save for half a minute. Every writer of the
+// file holds the save lock, so while we hold it no one is in that moment, and an empty lock file whose
+// flock we can take is abandoned.
 void removeAbandonedLock(const QString &settingsFile)
 {
     QFile lock(settingsFile + u".lock"_s);
@@ -50,38 +68,27 @@ void removeAbandonedLock(const QString &settingsFile)
 
 QList<RecipeItem> getRecipes()
 {
-    return readStore().recipes;
+    return decodeRecipeDocument(storedDocument(Preferences())).value_or(QList<RecipeItem>());
 }
 
 void saveRecipe(const RecipeItem &recipe)
 {
-    StoredRecipes stored = readStore();
-    QList<RecipeItem> &list = stored.recipes;
-    const QByteArray meal = QJsonDocument(recipe.toJson()).toJson(QJsonDocument::Compact);
-    printDiagnostic("NOW SAVING: ", meal);
-
-    qsizetype index = list.size();
-    if (recipe.id != list.size()) {
-        const auto found = std::find_if(list.cbegin(), list.cend(),
-                                        [&recipe](const RecipeItem &saved) { return saved.id == recipe.id; });
-        index = found == list.cend() ? -1 : found - list.cbegin();
-        printDiagnostic(u"Should update: "_s + (index < 0 ? u"none"_s : QString::number(index)));
-    }
-
-    // An empty list is written afresh: it may stand for an unreadable document.
-    QByteArray document;
-    if (list.isEmpty())
-        document = encodeRecipeDocument(index == 0 ? QList<RecipeItem>{recipe} : QList<RecipeItem>());
-    else
-        document = index < 0 ? stored.document : spliceRecipeDocument(stored.document, index, meal);
+    Preferences settings;
+    const SaveLock lock(settings.fileName());
+    const QByteArray stored = storedDocument(settings);
+    const RecipeSave save = saveIntoRecipeDocument(stored, recipe);
+    printDiagnostic("NOW SAVING: ", save.meal);
+    if (!save.appended)
+        printDiagnostic(u"Should update: "_s + (save.index < 0 ? u"none"_s : QString::number(save.index)));
 
     // The settings file is replaced through a temporary file and a rename, so a crash leaves the old or
     // the new document, never half of one; sync() puts it on disk before we return.
-    Preferences settings;
-    removeAbandonedLock(settings.fileName());
-    settings.setValue(recipesKey, document);
-    settings.sync();
-    printDiagnostic({}, document);
+    if (save.document) {
+        removeAbandonedLock(settings.fileName());
+        settings.setValue(recipesKey, *save.document);
+        settings.sync();
+    }
+    printDiagnostic({}, save.document.value_or(stored));
 }
 
 } // namespace nutrika
