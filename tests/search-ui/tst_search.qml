@@ -117,8 +117,10 @@ TestCase {
         shoot(container, "search-banana-paged")
 
         // A new text dims the rows shown until its first page replaces them.
+        list.positionViewAtBeginning()
         typeSearch(container, "apple")
         keyClick(Qt.Key_Return)
+        verify(view.resultsStale)
         verify(list.itemAt(10, list.contentY + 100).opacity < 1)
         shoot(container, "search-stale-rows")
         tryVerify(() => {

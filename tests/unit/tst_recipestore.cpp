@@ -135,7 +135,8 @@ private slots:
         // Indented, keys in another order, escapes where a plain character would do, CR LF and tabs.
         const QByteArrayList written{
             QJsonDocument(meal(0, u"Indented ]}"_s).toJson()).toJson(QJsonDocument::Indented).trimmed(),
-            R"({ "servings" : 2 , "items" : [ ] , "id" : 1 , "name" : "Esc \"\\\/ \u00e9 \ud83c\udf5d ]}" })",
+            "{ \"servings\" : 2 , \"items\" : [ ] , \"id\" : 1 , "
+            "\"name\" : \"Esc \\\"\\\\\\/ \\u00e9 \\ud83c\\udf5d ]}\" }",
             QJsonDocument(meal(2, u"\\"_s).toJson()).toJson(QJsonDocument::Indented).trimmed()};
         const QByteArray indented = layout(written, "\r\n  ", ",\r\n\t", "\n");
         for (const qint64 id : {0, 1, 2, 3})
