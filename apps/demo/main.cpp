@@ -32,6 +32,20 @@ const QMap<QString, QByteArray> previews = {
                        "AddToCalcPreviewScreen { navigation: s; uiView.preview: Preview.AddNew } }\n"},
     {u"preview-edit"_s, "import QtQuick.Controls.Basic\nimport Nutrika\nStackView { id: s; initialItem: "
                         "AddToCalcPreviewScreen { navigation: s; uiView.preview: Preview.Edit } }\n"},
+    {u"meal-new"_s,
+     "import QtQuick.Controls.Basic\nimport Nutrika\nStackView { id: s; initialItem: "
+     "CreateRecipeScreen { navigation: s; uiView.preview: CreateRecipeUIView.PreviewCreate } }\n"},
+    {u"meal-edit"_s,
+     "import QtQuick.Controls.Basic\nimport Nutrika\nStackView { id: s; initialItem: "
+     "CreateRecipeScreen { navigation: s; uiView.preview: CreateRecipeUIView.PreviewEdit } }\n"},
+    {u"meal-view"_s,
+     "import QtQuick.Controls.Basic\nimport Nutrika\nStackView { id: s; initialItem: "
+     "CreateRecipeScreen { navigation: s; uiView.preview: CreateRecipeUIView.PreviewView } }\n"},
+    {u"meal-select"_s,
+     "import QtQuick.Controls.Basic\nimport Nutrika\nStackView { id: s; initialItem: "
+     "CreateRecipeScreen { navigation: s; uiView.preview: CreateRecipeUIView.PreviewSelect } }\n"},
+    {u"meals"_s, "import QtQuick.Controls.Basic\nimport Nutrika\nStackView { id: s; initialItem: "
+                 "RecipeSearchScreen { navigation: s; uiView.preview: Preview.Main } }\n"},
     {u"suggestions"_s,
      "import QtQuick\nimport Nutrika\nRectangle { color: \"#808080\"\n"
      "Rectangle { anchors.fill: parent; anchors.margins: 20; radius: 14\n"

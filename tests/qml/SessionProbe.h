@@ -2,11 +2,14 @@
 
 #include "EnvironmentVariables.h"
 #include "ExampleData.h"
+#include "Preferences.h"
+#include "RecipeStore.h"
 
 #include <QObject>
 #include <QtQmlIntegration>
 
-/// Lets the QML tests reset the session, count "Close" actions and find the screenshot folder.
+/// Lets the QML tests reset the session, count "Close" actions, read and clear the saved meals and find
+/// the screenshot folder.
 class SessionProbe : public QObject
 {
     Q_OBJECT
@@ -38,6 +41,22 @@ public:
     {
         nutrika::EnvironmentVariables::shared()->setTrackedNutrientListItems(
             {nutrika::example::exampleTrackedNutrient1(), nutrika::example::exampleDiaryRecipeItem2()});
+    }
+
+    /// The meals as stored (recipeItem values), read past the screens.
+    Q_INVOKABLE QVariantList savedMeals() const
+    {
+        QVariantList meals;
+        for (const nutrika::RecipeItem &meal : nutrika::getRecipes())
+            meals.append(QVariant::fromValue(meal));
+        return meals;
+    }
+
+    Q_INVOKABLE void forgetSavedMeals()
+    {
+        nutrika::Preferences preferences;
+        preferences.remove(QStringLiteral("recipes"));
+        preferences.sync();
     }
 
 signals:

@@ -27,6 +27,10 @@ QString Destinations::path(Screen screen)
         return u"/qt/qml/Nutrika/screens/portion/SelectPortionScreen.qml"_s;
     case AddToCalcPreview:
         return u"/qt/qml/Nutrika/screens/portion/AddToCalcPreviewScreen.qml"_s;
+    case CreateRecipe:
+        return u"/qt/qml/Nutrika/screens/meals/CreateRecipeScreen.qml"_s;
+    case IngredientSearch:
+        return u"/qt/qml/Nutrika/screens/meals/IngredientSearchScreen.qml"_s;
     }
     return {};
 }

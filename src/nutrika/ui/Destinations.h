@@ -22,7 +22,10 @@ public:
     {
         SearchContainer,
         SelectPortion,
-        AddToCalcPreview
+        AddToCalcPreview,
+        CreateRecipe,
+        /// The food search framed as "Search Ingredients", over the meal editor.
+        IngredientSearch
     };
     Q_ENUM(Screen)
 

@@ -131,9 +131,9 @@ FocusScope {
     NavigationLink {
         id: lineLink
         function open(index, food) {
-            destination = food ? Destinations.AddToCalcPreview : -1 // no meal editor yet
+            destination = food ? Destinations.AddToCalcPreview : Destinations.CreateRecipe
             properties = food ? { diaryEntry: screen.uiView.line(index) }
-                              : { diaryEntry: screen.uiView.line(index), opener: "calculator" }
+                              : { diaryEntry: screen.uiView.line(index), mode: CreateRecipeUIView.View }
             active = true
         }
         navigation: screen.navigation

@@ -56,35 +56,66 @@ FocusScope {
                 required property var modelData
                 width: meals.width
                 title: modelData.name
-                onOpened: mealLink.open(modelData, "select", "edit")
+                onOpened: mealLink.open({ savedMeal: modelData, mode: CreateRecipeUIView.Select,
+                                          lastMode: CreateRecipeUIView.Edit })
             }
             // qmllint enable unqualified
         }
 
-        ActionButton {
-            objectName: "createMealButton"
+        Text {
+            objectName: "noMealsHint"
+            visible: screen.uiView.counter > 0 && screen.uiView.noSavedMeals
             Layout.fillWidth: true
-            Layout.margins: 16
-            implicitHeight: 50
-            text: qsTr("Create Meal")
-            bold: true
-            pixelSize: Look.titleSize
-            textColor: "white"
-            fillColor: Look.titleText
-            radius: 10
-            onClicked: mealLink.open(undefined, "new", "select")
+            Layout.leftMargin: 16
+            Layout.rightMargin: 16
+            Layout.bottomMargin: 6
+            text: qsTr("No saved meals yet. Tap \u201cCreate Meal\u201d, add its ingredients and save it: it will be listed here.")
+            wrapMode: Text.Wrap
+            horizontalAlignment: Text.AlignHCenter
+            font.pixelSize: Look.bodySize
+            color: "black"
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+        }
+
+        // The button area, set off from the list by an edge line.
+        Item {
+            Layout.fillWidth: true
+            implicitHeight: createMeal.implicitHeight + 32
+            EdgeBorder {
+                objectName: "createMealEdge"
+                anchors.fill: parent
+                lineWidth: 1
+                edges: [EdgeBorder.Top]
+                color: Look.lightGray
+            }
+            ActionButton {
+                id: createMeal
+                objectName: "createMealButton"
+                anchors.fill: parent
+                anchors.margins: 16
+                implicitHeight: 50
+                text: qsTr("Create Meal")
+                bold: true
+                pixelSize: Look.titleSize
+                textColor: "white"
+                fillColor: Look.titleText
+                radius: 10
+                onClicked: mealLink.open({ newMeal: true, mode: CreateRecipeUIView.New,
+                                           lastMode: CreateRecipeUIView.Select })
+            }
         }
     }
 
-    // The meal editor, for a saved meal or a new one.
+    // The meal editor, for a saved meal or a new one, each on a line of its own.
     NavigationLink {
         id: mealLink
-        function open(meal, mode, previousMode) {
-            properties = { meal: meal, mode: mode, previousMode: previousMode, quantityText: "1" }
+        function open(meal) {
+            properties = Object.assign({ quantityText: "1" }, meal)
             active = true
         }
         navigation: screen.navigation
-        destination: -1 // the meal editor is not built yet: nothing opens
+        destination: Destinations.CreateRecipe
         onDismissed: active = false
     }
 }

@@ -4,6 +4,8 @@
 #include "ExampleData.h"
 #include "RecipeStore.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace nutrika {
 
 RecipeSearchUIView::RecipeSearchUIView(QObject *parent) : QObject(parent)
@@ -31,6 +33,21 @@ void RecipeSearchUIView::onFinishTyping(const QString &text)
 {
     m_debouncedText = text;
     emit debouncedTextChanged();
+}
+
+DiaryEntryPtr RecipeSearchUIView::newMealEntry()
+{
+    return DiaryEntryPtr::create(123, RecipeItem{u"New Meal"_s, -1, {}, 1}, 1);
+}
+
+DiaryEntryPtr RecipeSearchUIView::savedMealEntry(const RecipeItem &meal)
+{
+    return DiaryEntryPtr::create(123, meal, 1);
+}
+
+bool RecipeSearchUIView::noSavedMeals() const
+{
+    return EnvironmentVariables::shared()->recipeList()->items().isEmpty();
 }
 
 QList<RecipeItem> RecipeSearchUIView::filteredMeals() const
