@@ -266,7 +266,11 @@ TestCase {
         const root = createTemporaryObject(rootComponent, testCase)
         tapFood(search(root, "banana"), "Bananas, raw")
         selectPortion(settled(root, 3), mediumBanana)
-        mouseClick(findChild(settled(root, 4), "addButton"))
+        const preview = settled(root, 4)
+        const add = findChild(preview, "addButton")
+        carbsShown(preview) // the button waits for the carbohydrates
+        tryVerify(() => add.enabled)
+        mouseClick(add)
         settled(root, 1)
         const popup = findChild(root, "suggestions")
         tryVerify(() => popup.visible, 3000)

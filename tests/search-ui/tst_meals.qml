@@ -59,8 +59,8 @@ TestCase {
             for (let i = 0; i < list.count; ++i) {
                 const item = list.itemAtIndex(i)
                 // The service's description may go on in parentheses ("... water (includes boiling ...").
-                if (item && item.item && (item.item.title === title || item.item.title.startsWith(title + " ("))) {
-                    row = item.item
+                if (item && (item.title === title || item.title.startsWith(title + " ("))) {
+                    row = item
                     return true
                 }
             }

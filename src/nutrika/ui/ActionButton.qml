@@ -18,7 +18,7 @@ Button {
     padding: 0
     Accessible.role: Accessible.Button
     Accessible.name: text
-    Accessible.onPressAction: clicked()
+    Accessible.onPressAction: if (enabled) clicked()
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
 
@@ -36,7 +36,7 @@ Button {
     background: Rectangle {
         color: button.fillColor
         radius: button.radius
-        opacity: button.down ? 0.7 : 1
+        opacity: !button.enabled ? 0.4 : button.down ? 0.7 : 1
         border.width: button.visualFocus ? 2 : 0
         border.color: "#ffbf00"
     }

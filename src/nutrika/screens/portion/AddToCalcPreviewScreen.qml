@@ -122,6 +122,9 @@ FocusScope {
                 Layout.rightMargin: 16
                 implicitHeight: 54
                 text: screen.editing ? qsTr("Update") : screen.uiView.addButtonText
+                // A line is only added once its carbohydrates are known: a line added earlier would be
+                // counted, or saved in a meal, without them.
+                enabled: !screen.uiView.isLoading && !screen.uiView.nutrientsFailed
                 bold: true
                 pixelSize: Look.titleSize
                 textColor: "white"
