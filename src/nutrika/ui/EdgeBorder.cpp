@@ -1,10 +1,15 @@
 #include "EdgeBorder.h"
 
-#include <QPainter>
+#include <QQuickWindow>
+#include <QSGRectangleNode>
 
 namespace nutrika {
 
-EdgeBorder::EdgeBorder(QQuickItem *parent) : QQuickPaintedItem(parent) {}
+// Scene-graph rectangles rather than a painted image: a list has one border per row.
+EdgeBorder::EdgeBorder(QQuickItem *parent) : QQuickItem(parent)
+{
+    setFlag(ItemHasContents);
+}
 
 QList<QRectF> EdgeBorder::path(const QRectF &rect, qreal width, const QList<Edge> &edges)
 {
@@ -61,10 +66,27 @@ void EdgeBorder::setColor(const QColor &color)
     update();
 }
 
-void EdgeBorder::paint(QPainter *painter)
+void EdgeBorder::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
 {
-    for (const QRectF &rect : path(boundingRect(), m_lineWidth, m_edges))
-        painter->fillRect(rect, m_color);
+    QQuickItem::geometryChange(newGeometry, oldGeometry);
+    update();
+}
+
+QSGNode *EdgeBorder::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *)
+{
+    // Rebuilt whole: a border has at most a few rectangles and changes rarely.
+    delete oldNode;
+    const QList<QRectF> rects = path(boundingRect(), m_lineWidth, m_edges);
+    if (rects.isEmpty())
+        return nullptr;
+    auto *node = new QSGNode;
+    for (const QRectF &rect : rects) {
+        QSGRectangleNode *line = window()->createRectangleNode();
+        line->setRect(rect);
+        line->setColor(m_color);
+        node->appendChildNode(line);
+    }
+    return node;
 }
 
 } // namespace nutrika

@@ -2,13 +2,13 @@
 
 #include <QColor>
 #include <QList>
-#include <QQuickPaintedItem>
+#include <QQuickItem>
 #include <QRectF>
 
 namespace nutrika {
 
 /// Lines along chosen edges of its bounds, for the thin separators under rows and headers.
-class EdgeBorder : public QQuickPaintedItem
+class EdgeBorder : public QQuickItem
 {
     Q_OBJECT
     QML_ELEMENT
@@ -38,7 +38,9 @@ public:
     [[nodiscard]] QColor color() const { return m_color; }
     void setColor(const QColor &color);
 
-    void paint(QPainter *painter) override;
+protected:
+    QSGNode *updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data) override;
+    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
 
 signals:
     void lineWidthChanged();

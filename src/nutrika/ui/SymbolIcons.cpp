@@ -29,6 +29,11 @@ QString symbolGlyph(const QString &symbolName)
 QString symbolFontFamily()
 {
     static const QString family = [] {
+        // The installed font is found by family; loading the file again would cost the first screen
+        // several milliseconds.
+        const QString installed = u"Material Icons"_s;
+        if (QFontDatabase::hasFamily(installed))
+            return installed;
         const QString path = QStandardPaths::locate(
             QStandardPaths::GenericDataLocation,
             u"fonts/truetype/material-design-icons-iconfont/MaterialIcons-Regular.ttf"_s);

@@ -1,9 +1,9 @@
 import QtQuick
-import QtQuick.Layouts
 import Nutrika
 
 // The frame of every full screen: the title bar with the optional back and "Close" row, then the content.
-ColumnLayout {
+// Anchors rather than layouts: this frame is on the first screen, which should not wait for them.
+Item {
     id: frame
 
     // The title, or undefined for an empty bar of the same height.
@@ -13,13 +13,12 @@ ColumnLayout {
     property var presentationMode: null
     default property alias content: body.data
 
-    spacing: 0
-
     Rectangle {
         id: titleBar
         objectName: "titleBar"
-        Layout.fillWidth: true
-        implicitHeight: Math.max(title.implicitHeight, backRow.visible ? backRow.implicitHeight : 0) + 10
+        width: parent.width
+        height: implicitHeight
+        implicitHeight: Math.max(title.implicitHeight, backRow.active ? backRow.implicitHeight : 0) + 10
         color: Look.detailColor
 
         Text {
@@ -36,42 +35,51 @@ ColumnLayout {
             Accessible.name: text
         }
 
-        RowLayout {
+        // Built only where it shows: the calculator has neither back nor "Close".
+        Loader {
             id: backRow
             objectName: "backRow"
-            visible: frame.backButton
+            active: frame.backButton
+            visible: active
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.verticalCenter: title.verticalCenter
             anchors.leftMargin: 15
             anchors.rightMargin: 15
+            sourceComponent: Item {
+                implicitHeight: 44
 
-            ActionButton {
-                objectName: "backButton"
-                symbol: "chevron.left"
-                text: qsTr("Back")
-                textColor: "white"
-                pixelSize: 28
-                implicitWidth: 44
-                implicitHeight: 44
-                onClicked: if (frame.presentationMode) frame.presentationMode.dismiss()
-            }
-            Item { Layout.fillWidth: true }
-            ActionButton {
-                objectName: "closeButton"
-                text: qsTr("Close")
-                textColor: "white"
-                implicitWidth: 64
-                implicitHeight: 44
-                onClicked: EnvironmentVariables.dismiss()
+                ActionButton {
+                    objectName: "backButton"
+                    symbol: "chevron.left"
+                    text: qsTr("Back")
+                    textColor: "white"
+                    pixelSize: 28
+                    width: 44
+                    height: 44
+                    // Qt 6.4's linter cannot follow ids out of a component (that needs 6.5).
+                    // qmllint disable unqualified
+                    onClicked: if (frame.presentationMode) frame.presentationMode.dismiss()
+                    // qmllint enable unqualified
+                }
+                ActionButton {
+                    objectName: "closeButton"
+                    anchors.right: parent.right
+                    text: qsTr("Close")
+                    textColor: "white"
+                    width: 64
+                    height: 44
+                    onClicked: EnvironmentVariables.dismiss()
+                }
             }
         }
     }
 
     Rectangle {
         id: body
-        Layout.fillWidth: true
-        Layout.fillHeight: true
+        y: titleBar.height
+        width: parent.width
+        height: parent.height - titleBar.height
         color: "white"
     }
 }

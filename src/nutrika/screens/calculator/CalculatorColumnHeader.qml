@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Layouts
 import Nutrika
 
 // The calculator's column titles: "Food/Drink" and "Total Carbohydrates", over a 2-point line.
@@ -8,32 +7,34 @@ Item {
 
     property string counterHeader: ""
 
-    implicitHeight: headerRow.implicitHeight
+    implicitHeight: counter.implicitHeight + 32
     height: implicitHeight
 
-    RowLayout {
-        id: headerRow
-        anchors.fill: parent
-        spacing: 8
-        Text {
-            Layout.fillWidth: true
-            Layout.margins: 16
-            text: qsTr("Food/Drink")
-            font.bold: true
-            font.pixelSize: Look.bodySize
-            Accessible.role: Accessible.ColumnHeader
-            Accessible.name: text
-        }
-        Text {
-            Layout.maximumWidth: 170
-            Layout.margins: 16
-            text: header.counterHeader
-            font.bold: true
-            font.pixelSize: Look.bodySize
-            wrapMode: Text.WordWrap
-            Accessible.role: Accessible.ColumnHeader
-            Accessible.name: text
-        }
+    Text {
+        anchors.left: parent.left
+        anchors.right: counter.left
+        anchors.verticalCenter: parent.verticalCenter
+        anchors.leftMargin: 16
+        // The two columns' margins and the gap between them.
+        anchors.rightMargin: 40
+        text: qsTr("Food/Drink")
+        font.bold: true
+        font.pixelSize: Look.bodySize
+        Accessible.role: Accessible.ColumnHeader
+        Accessible.name: text
+    }
+    Text {
+        id: counter
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        anchors.rightMargin: 16
+        width: Math.min(implicitWidth, 170)
+        text: header.counterHeader
+        font.bold: true
+        font.pixelSize: Look.bodySize
+        wrapMode: Text.WordWrap
+        Accessible.role: Accessible.ColumnHeader
+        Accessible.name: text
     }
 
     EdgeBorder {

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Layouts
 import Nutrika
 
 // One calculator line: the food (bold) or meal name, its amount and the remove cross.
@@ -14,7 +13,7 @@ Rectangle {
     signal opened()
     signal removed()
 
-    implicitHeight: row.implicitHeight + 20
+    implicitHeight: Math.max(lineTitle.implicitHeight, lineAmount.implicitHeight, removeButton.height) + 20
     color: activeFocus ? "#e8f3f7" : "white"
     activeFocusOnTab: true
     Accessible.role: Accessible.Button
@@ -28,43 +27,45 @@ Rectangle {
         onTapped: line.opened()
     }
 
-    RowLayout {
-        id: row
-        anchors.fill: parent
+    Text {
+        id: lineTitle
+        objectName: "lineTitle"
+        anchors.left: parent.left
+        anchors.right: lineAmount.left
+        anchors.verticalCenter: parent.verticalCenter
         anchors.leftMargin: 16
+        anchors.rightMargin: 8
+        text: line.title
+        font.bold: line.isFood
+        font.pixelSize: Look.bodySize
+        color: "black"
+        wrapMode: Text.Wrap
+    }
+    Text {
+        id: lineAmount
+        objectName: "lineAmount"
+        anchors.right: removeButton.left
+        anchors.verticalCenter: parent.verticalCenter
+        anchors.rightMargin: 8
+        width: Math.min(implicitWidth, 145)
+        text: line.amount
+        font.pixelSize: Look.bodySize
+        color: "black"
+        elide: Text.ElideRight
+    }
+    ActionButton {
+        id: removeButton
+        objectName: "removeButton"
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
         anchors.rightMargin: 16
-        anchors.topMargin: 10
-        anchors.bottomMargin: 10
-        spacing: 8
-
-        Text {
-            objectName: "lineTitle"
-            Layout.fillWidth: true
-            text: line.title
-            font.bold: line.isFood
-            font.pixelSize: Look.bodySize
-            color: "black"
-            wrapMode: Text.Wrap
-        }
-        Text {
-            objectName: "lineAmount"
-            Layout.preferredWidth: Math.min(implicitWidth, 145)
-            Layout.maximumWidth: 145
-            text: line.amount
-            font.pixelSize: Look.bodySize
-            color: "black"
-            elide: Text.ElideRight
-        }
-        ActionButton {
-            objectName: "removeButton"
-            Layout.preferredWidth: 25
-            Layout.preferredHeight: 25
-            symbol: "xmark.circle"
-            text: qsTr("Remove %1").arg(line.title)
-            textColor: "#c40000"
-            pixelSize: 25
-            onClicked: line.removed()
-        }
+        width: 25
+        height: 25
+        symbol: "xmark.circle"
+        text: qsTr("Remove %1").arg(line.title)
+        textColor: "#c40000"
+        pixelSize: 25
+        onClicked: line.removed()
     }
 
     EdgeBorder {

@@ -1,6 +1,5 @@
 import QtQuick
-import QtQuick.Controls.Basic
-import QtQuick.Layouts
+import QtQuick.Templates as T
 import Nutrika
 
 // Qt 6.4's linter knows neither 64-bit integers, nor the types of components that reach ids outside
@@ -13,10 +12,10 @@ FocusScope {
     id: screen
 
     property CarbCounterUIView uiView: CarbCounterUIView {}
-    required property StackView navigation
+    required property T.StackView navigation
     property var presentationMode: null
 
-    StackView.onActivated: uiView.appear()
+    T.StackView.onActivated: uiView.appear()
 
     ViewContainer {
         anchors.fill: parent
@@ -85,38 +84,17 @@ FocusScope {
         }
     }
 
-    Popup {
+    // Built the first time the suggestions show, so that opening the calculator does not wait for them.
+    Loader {
         id: suggestions
-        objectName: "suggestions"
-        parent: popoverAnchor
-        x: 10
-        width: parent.width - 20
-        height: Math.min(520, screen.height - columnHeader.height - 40)
-        modal: true
-        focus: true
-        padding: 0
-        visible: screen.uiView.showAccompanimentList
-        onAboutToShow: content.active = true
-        // The list is built for each showing and let go after the choice that closed it has finished.
-        onClosed: {
-            // Closed by Escape or a tap outside; a close that follows the flag leaves it as it is.
-            if (screen.uiView.showAccompanimentList)
-                screen.uiView.showAccompanimentList = false
-            Qt.callLater(() => content.active = false)
+        function wanted() {
+            if (screen.uiView.showAccompanimentList && !item)
+                setSource("SuggestionsPopover.qml", { calculator: screen.uiView, anchor: popoverAnchor })
         }
-        background: Rectangle { radius: 14; color: "white"; border.color: Look.lightGray }
-
-        contentItem: Loader {
-            id: content
-            active: false
-            sourceComponent: FoodAccompanimentsScreen {
-                uiView: FoodAccompanimentsUIView {
-                    // A copy: suggestions that arrive while the list shows wait for the next time.
-                    Component.onCompleted: items = screen.uiView.accompanimentListItems
-                    onIsPresentedChanged: screen.uiView.showAccompanimentList = isPresented
-                    onSelect: item => screen.uiView.selectAccompanimentValue(item)
-                }
-            }
+        Component.onCompleted: wanted()
+        Connections {
+            target: screen.uiView
+            function onShowAccompanimentListChanged() { suggestions.wanted() }
         }
     }
 

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic
+import QtQuick.Templates as T
 import QtQuick.Layouts
 import Nutrika
 
@@ -13,7 +14,7 @@ FocusScope {
     id: screen
 
     property CreateRecipeUIView uiView: CreateRecipeUIView {}
-    required property StackView navigation
+    required property T.StackView navigation
     property var presentationMode: null
     // The calculator gives its meal line; the saved-meal list gives a saved meal, or asks for a new one,
     // with both modes and the quantity text.

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic
+import QtQuick.Templates as T
 import Nutrika
 
 // The food search over the meal editor, framed as "Search Ingredients": a food chosen here goes through
@@ -7,7 +8,7 @@ import Nutrika
 FocusScope {
     id: screen
 
-    required property StackView navigation
+    required property T.StackView navigation
     property var presentationMode: null
 
     ViewContainer {

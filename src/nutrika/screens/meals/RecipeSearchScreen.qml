@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic
+import QtQuick.Templates as T
 import QtQuick.Layouts
 import Nutrika
 
@@ -8,7 +9,7 @@ FocusScope {
     id: screen
 
     property RecipeSearchUIView uiView: RecipeSearchUIView {}
-    required property StackView navigation
+    required property T.StackView navigation
     // The container whose content this is; the list reloads each time that content appears.
     property SearchContainerUIView container: null
 

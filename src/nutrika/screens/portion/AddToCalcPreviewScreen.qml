@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic
+import QtQuick.Templates as T
 import QtQuick.Layouts
 import Nutrika
 
@@ -9,7 +10,7 @@ FocusScope {
     id: screen
 
     property AddToCalcPreviewUIView uiView: AddToCalcPreviewUIView {}
-    required property StackView navigation
+    required property T.StackView navigation
     property var presentationMode: null
     // Add mode: the food and portion chosen on the portion screen.
     property var selectedFood

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic
+import QtQuick.Templates as T
 import QtQuick.Layouts
 import Nutrika
 
@@ -13,7 +14,7 @@ FocusScope {
     id: screen
 
     property SelectPortionUIView uiView: SelectPortionUIView { id: portionState }
-    required property StackView navigation
+    required property T.StackView navigation
     property var presentationMode: null
     property alias selectedFood: portionState.selectedFood
     // Given by an opener that takes the portion back (a function of one PortionItem), else null.

@@ -10,7 +10,7 @@ FocusScope {
     id: screen
 
     property ItemSearchUIView uiView: ItemSearchUIView {}
-    required property StackView navigation
+    required property T.StackView navigation
 
     ColumnLayout {
         anchors.fill: parent

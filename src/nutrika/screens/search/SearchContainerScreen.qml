@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic
+import QtQuick.Templates as T
 import QtQuick.Layouts
 import Nutrika
 
@@ -8,7 +9,7 @@ FocusScope {
     id: screen
 
     property SearchContainerUIView uiView: SearchContainerUIView {}
-    required property StackView navigation
+    required property T.StackView navigation
     property var presentationMode: null
 
     // Coming back from a pushed screen shows the content again.
