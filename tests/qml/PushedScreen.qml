@@ -1,19 +1,10 @@
-import QtQuick
-import QtQuick.Controls.Basic
+import QtQuick.Templates as T
 import Nutrika
 
 // A framed screen for the navigation tests, pushed the way the module's screens are.
-Item {
-    id: pushed
-    property StackView navigation
-    property var presentationMode: null
+ViewContainer {
+    property T.StackView navigation
     property string title: "Pushed"
-
-    ViewContainer {
-        anchors.fill: parent
-        titleText: pushed.title
-        backButton: true
-        presentationMode: pushed.presentationMode
-        Text { anchors.centerIn: parent; text: "Content" }
-    }
+    titleText: title
+    backButton: true
 }

@@ -1,30 +1,14 @@
 import QtQuick
-import QtTest
 import Nutrika
 import NutrikaTest
 
-TestCase {
+ScreenTestCase {
     id: testCase
     name: "Calculator"
-    width: 400
-    height: 720
-    when: windowShown
-    visible: true
 
     Component {
-        id: previewComponent
+        id: previewComponent // the calculator with its sample lines
         NutrikaRoot { anchors.fill: parent; calculator: CarbCounterUIView { preview: Preview.Main } }
-    }
-    Component {
-        id: liveComponent
-        NutrikaRoot { anchors.fill: parent }
-    }
-
-    function init() { SessionProbe.reset() }
-
-    function shoot(item, name) {
-        if (SessionProbe.screenshotDir !== "")
-            grabImage(item).save(SessionProbe.screenshotDir + "/" + name + ".png")
     }
 
     // The lines are shown once the list has built a delegate for each.
@@ -37,26 +21,18 @@ TestCase {
     }
 
     function amounts(list) {
-        const texts = []
-        for (let i = 0; i < list.count; ++i)
-            texts.push(findChild(list.itemAtIndex(i), "lineAmount").text)
-        return texts
+        return Array.from({ length: list.count }, (_, i) => findChild(list.itemAtIndex(i), "lineAmount").text)
     }
 
-    function test_previewShowsTheSampleLinesAndTotal() {
+    // Every amount rounds to one decimal, halves away from zero: the half burger's 19.35 g shows as 19.4 g.
+    function test_previewShowsTheSampleLinesAndRemoveTakesTheTappedLine() {
         const root = createTemporaryObject(previewComponent, testCase)
         const list = linesOf(root, 4)
         compare(amounts(list), ["25.8 g", "12.9 g", "77.4 g", "19.4 g"])
         compare(findChild(list.itemAtIndex(2), "lineTitle").text, "Cheeseburger")
-        compare(findChild(list.itemAtIndex(0), "lineTitle").font.bold, true)
-        compare(findChild(list.itemAtIndex(2), "lineTitle").font.bold, false)
+        compare([0, 2].map(i => findChild(list.itemAtIndex(i), "lineTitle").font.bold), [true, false])
         compare(findChild(root, "totalAmount").text, "135.5 g")
         shoot(root, "calculator-preview")
-    }
-
-    function test_removeTakesTheTappedLine() {
-        const root = createTemporaryObject(previewComponent, testCase)
-        const list = linesOf(root, 4)
         mouseClick(findChild(list.itemAtIndex(0), "removeButton"))
         tryCompare(list, "count", 3)
         compare(amounts(list), ["12.9 g", "77.4 g", "19.4 g"])
@@ -64,14 +40,12 @@ TestCase {
     }
 
     function test_anEmptyCalculatorAsksForTheSearch() {
-        const root = createTemporaryObject(liveComponent, testCase)
+        const root = createTemporaryObject(rootComponent, testCase)
         const calculator = root.navigation.get(0)
         tryCompare(EnvironmentVariables, "searchActive", true)
-        compare(findChild(calculator, "lineList").count, 0)
-        compare(findChild(calculator, "totalAmount").text, "0 g")
+        compare(findChild(calculator, "totalAmount").text, "0 g") // a whole number without ".0"
         compare(findChild(calculator, "backRow").visible, false) // neither back nor "Close" here
-        tryCompare(root.navigation, "depth", 2)
-        tryCompare(root.navigation, "busy", false)
+        settle(root.navigation, 2)
         shoot(root, "calculator-empty-opens-search")
         // Back on an empty calculator: shown again, it asks for the search again.
         EnvironmentVariables.searchActive = false
@@ -80,38 +54,11 @@ TestCase {
         tryCompare(root.navigation, "depth", 2)
     }
 
-    function test_searchMoreFoodsSetsTheFlag() {
+    // A change inside a line's entry reaches its amount, the meal holding that entry, and the total. Return
+    // on a line's remove button and Enter on "Search more foods" act as taps do.
+    function test_linesFollowTheirEntryAndTheKeyboardActs() {
         SessionProbe.addExampleLines()
-        const root = createTemporaryObject(liveComponent, testCase)
-        wait(0)
-        compare(EnvironmentVariables.searchActive, false)
-        mouseClick(findChild(root, "searchMoreButton"))
-        compare(EnvironmentVariables.searchActive, true)
-        shoot(root, "calculator-two-lines")
-    }
-
-    function test_everyActionWorksFromTheKeyboard() {
-        SessionProbe.addExampleLines()
-        const root = createTemporaryObject(liveComponent, testCase)
-        const list = linesOf(root, 2)
-        root.forceActiveFocus()
-        keyClick(Qt.Key_Tab)
-        verify(list.itemAtIndex(0).activeFocus)
-        keyClick(Qt.Key_Tab)
-        verify(findChild(list.itemAtIndex(0), "removeButton").activeFocus)
-        shoot(root, "calculator-keyboard-focus")
-        keyClick(Qt.Key_Return)
-        tryCompare(list, "count", 1)
-        compare(amounts(list), ["19.4 g"])
-        const searchMore = findChild(root, "searchMoreButton")
-        searchMore.forceActiveFocus()
-        keyClick(Qt.Key_Enter)
-        compare(EnvironmentVariables.searchActive, true)
-    }
-
-    function test_linesFollowEditsOfTheirEntry() {
-        SessionProbe.addExampleLines()
-        const root = createTemporaryObject(liveComponent, testCase)
+        const root = createTemporaryObject(rootComponent, testCase)
         const list = linesOf(root, 2)
         const entry = root.calculator.line(0)
         const quantity = entry.quantity
@@ -124,5 +71,14 @@ TestCase {
         } finally {
             entry.quantity = quantity // the samples are shared by every test
         }
+        compare(EnvironmentVariables.searchActive, false)
+        findChild(list.itemAtIndex(0), "removeButton").forceActiveFocus()
+        shoot(root, "calculator-keyboard-focus")
+        keyClick(Qt.Key_Return)
+        tryCompare(list, "count", 1)
+        compare(amounts(list), ["19.4 g"])
+        findChild(root, "searchMoreButton").forceActiveFocus()
+        keyClick(Qt.Key_Enter)
+        compare(EnvironmentVariables.searchActive, true)
     }
 }

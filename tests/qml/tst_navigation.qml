@@ -1,118 +1,87 @@
 import QtQuick
 import QtQuick.Controls.Basic
-import QtTest
 import Nutrika
 import NutrikaTest
 
-TestCase {
+ScreenTestCase {
     id: testCase
     name: "Navigation"
-    width: 400
-    height: 640
-    when: windowShown
-    visible: true
 
-    Component {
-        id: stackComponent
-        StackView { anchors.fill: parent; initialItem: Item {} }
-    }
-    Component {
-        id: emptyStackComponent
-        StackView { anchors.fill: parent }
-    }
-    Component {
-        id: linkComponent
-        NavigationLink { destinationUrl: Qt.resolvedUrl("PushedScreen.qml") }
-    }
-    Component {
-        id: rootComponent
-        NutrikaRoot { anchors.fill: parent }
-    }
-
-    function init() { SessionProbe.reset() }
-
-    function shoot(item, name) {
-        if (SessionProbe.screenshotDir !== "")
-            grabImage(item).save(SessionProbe.screenshotDir + "/" + name + ".png")
-    }
+    Component { id: stackComponent; StackView { anchors.fill: parent; initialItem: Item {} } }
+    Component { id: linkComponent; NavigationLink { destinationUrl: Qt.resolvedUrl("PushedScreen.qml") } }
 
     function makeLink(stack, extra) {
         return createTemporaryObject(linkComponent, testCase, Object.assign({ navigation: stack }, extra || {}))
     }
 
-    function test_settingTheFlagPushesAndClearingItPopsEverythingAbove() {
+    // A stack with a link pushed on it, settled.
+    function pushed(extra) {
         const stack = createTemporaryObject(stackComponent, testCase)
-        const first = makeLink(stack)
-        first.active = true
-        tryCompare(stack, "depth", 2)
-        compare(stack.currentItem.presentationMode, first)
-        const second = makeLink(stack, { properties: { title: "Second" } })
-        second.active = true
+        const link = makeLink(stack, extra)
+        link.active = true
+        settle(stack, 2)
+        return { stack: stack, link: link }
+    }
+
+    function test_settingTheFlagPushesAndClearingItPopsEverythingAbove() {
+        const { stack, link } = pushed()
+        compare(stack.currentItem.presentationMode, link)
+        makeLink(stack, { active: true, properties: { title: "Second" } })
         tryCompare(stack, "depth", 3)
         compare(stack.currentItem.title, "Second")
-        first.active = false
+        link.active = false
         tryCompare(stack, "depth", 1)
-        compare(first.screen, null)
+        compare(link.screen, null)
     }
 
-    function test_goingBackWritesTheFlag() {
-        const stack = createTemporaryObject(stackComponent, testCase)
-        const link = makeLink(stack)
-        link.dismissed.connect(() => link.active = false)
-        link.active = true
-        tryCompare(stack, "depth", 2)
-        tryCompare(stack, "busy", false)
-        shoot(stack, "frame-with-back-row")
-        mouseClick(findChild(stack.currentItem, "backButton"))
-        compare(link.active, false)
-        tryCompare(stack, "depth", 1)
-    }
-
-    function test_aReadOnlyLinkPopsByItselfAndStaysDown() {
-        const stack = createTemporaryObject(stackComponent, testCase)
-        const link = makeLink(stack, { writesBack: false })
-        link.active = true
-        tryCompare(stack, "depth", 2)
-        tryCompare(stack, "busy", false)
+    // A read-only link pops by itself and stays down while its flag stays set; the same row tapped again,
+    // or the flag written anew, pushes again.
+    function test_aReadOnlyLinkFollowsAFlagWrittenAgainAfterGoingBack() {
+        const { stack, link } = pushed({ writesBack: false })
         link.dismiss()
         tryCompare(stack, "depth", 1)
         wait(400)
         compare(stack.depth, 1)
         compare(link.active, true)
+        link.rearm()
+        settle(stack, 2)
+        link.dismiss()
+        tryCompare(stack, "depth", 1)
         link.active = false
         link.active = true
         tryCompare(stack, "depth", 2)
     }
 
-    function test_closeRunsTheSessionDismissFunction() {
-        const stack = createTemporaryObject(stackComponent, testCase)
-        const link = makeLink(stack)
-        link.active = true
-        tryCompare(stack, "depth", 2)
-        tryCompare(stack, "busy", false)
+    // "Close" runs the session's dismiss function and leaves the stack to the host; back clears the flag.
+    function test_theFrameButtons() {
+        const { stack, link } = pushed()
+        link.dismissed.connect(() => link.active = false)
+        shoot(stack, "frame-with-back-row")
         mouseClick(findChild(stack.currentItem, "closeButton"))
         compare(SessionProbe.dismissCount, 1)
-        compare(stack.depth, 2) // the module's host decides; the frame does not pop
+        compare(stack.depth, 2)
+        mouseClick(findChild(stack.currentItem, "backButton"))
+        compare(link.active, false)
+        tryCompare(stack, "depth", 1)
     }
 
     function test_escapeGoesBackOneScreen() {
         SessionProbe.addExampleLines()
         const root = createTemporaryObject(rootComponent, testCase)
-        const link = makeLink(root.navigation)
+        const stack = root.navigation
+        const link = makeLink(stack, { active: true })
         link.dismissed.connect(() => link.active = false)
-        link.active = true
-        tryCompare(root.navigation, "depth", 2)
-        tryCompare(root.navigation, "busy", false)
+        settle(stack, 2)
         root.forceActiveFocus()
         keyClick(Qt.Key_Escape)
-        tryCompare(root.navigation, "depth", 1)
+        tryCompare(stack, "depth", 1)
         keyClick(Qt.Key_Escape) // nothing below the calculator
-        compare(root.navigation.depth, 1)
+        compare(stack.depth, 1)
     }
 
+    // As on a second opening of the module: the flag is still set from the first.
     function test_aLinkCreatedWithItsFlagSetPushesOnceTheStackHoldsItsFirstScreen() {
-        // As on a second opening of the module: the flag is still set from the first.
-        const stack = createTemporaryObject(emptyStackComponent, testCase)
+        const stack = createTemporaryObject(stackComponent, testCase, { initialItem: null })
         const link = makeLink(stack, { active: true })
         compare(stack.depth, 0)
         stack.push(Qt.resolvedUrl("PushedScreen.qml"), { title: "First" })
@@ -120,24 +89,10 @@ TestCase {
         compare(stack.currentItem.presentationMode, link)
     }
 
-    function test_aReadOnlyLinkFollowsAFlagWrittenAgainAfterGoingBack() {
-        const stack = createTemporaryObject(stackComponent, testCase)
-        const link = makeLink(stack, { writesBack: false, active: true })
-        tryCompare(stack, "depth", 2)
-        tryCompare(stack, "busy", false)
-        link.dismiss()
-        tryCompare(stack, "depth", 1)
-        tryCompare(stack, "busy", false)
-        link.rearm() // the same row tapped again
-        tryCompare(stack, "depth", 2)
-    }
-
     function test_aMissingDestinationWarnsAndPushesNothing() {
         const stack = createTemporaryObject(stackComponent, testCase)
         ignoreWarning("Destinations: no screen for 99")
-        const link = createTemporaryObject(linkComponent, testCase,
-                                           { navigation: stack, destinationUrl: Destinations.screen(99) })
-        link.active = true
+        makeLink(stack, { destinationUrl: Destinations.screen(99), active: true })
         wait(50)
         compare(stack.depth, 1)
     }

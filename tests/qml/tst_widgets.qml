@@ -1,110 +1,165 @@
 import QtQuick
 import QtTest
 import Nutrika
-import NutrikaTest
 
-TestCase {
+// The search bar, the number stepper, the picker and the smaller pieces of the screens.
+ScreenTestCase {
     id: testCase
     name: "Widgets"
-    width: 400
-    height: 560
-    when: windowShown
-    visible: true
 
+    property var delivered: []
+
+    Component {
+        id: barComponent
+        SearchBar { x: 10; y: 10; width: 340; onFinishTyping: text => testCase.delivered.push(text) }
+    }
+    Component {
+        id: stepperComponent
+        NumberStepperControl { x: 20; y: 20; min: 1; max: 99999; color: "#eeeeee" }
+    }
     Component {
         id: gallery
         Column {
             width: 400
             spacing: 12
-            property alias frame: frame
-            property alias untitled: untitled
             property alias picker: picker
-            property alias filled: filled
-            property alias outlined: outlined
+            property alias header: header
             property alias spinner: spinner
-            ViewContainer { id: frame; width: 400; height: 90; titleText: "Carb Calculator" }
-            ViewContainer { id: untitled; width: 400; height: 90 }
             CustomPickerUIView {
                 id: picker; x: 20; width: 360; options: ["Search", "Meals"]
                 property int ownerChoice: 1
                 selected: ownerChoice
                 onSelect: index => ownerChoice = index
             }
-            ListHeader { id: filled; width: 400; title: "Non-Branded"; rightTitle: "12" }
-            ListHeader { id: outlined; width: 400; title: "Saved Meals"; clear: true }
-            Row {
-                x: 20
-                spacing: 20
-                Spinner { id: spinner; size: 60 }
-                RoundIconButton { iconName: "plus.circle.fill" }
-                TitleText { title: "Suggestions" }
-            }
+            ListHeader { id: header; width: 400; title: "Non-Branded"; rightTitle: "12" }
+            Spinner { id: spinner; size: 60 }
         }
     }
-    Component {
-        id: sizedSpinner
-        Spinner { width: 30; height: 20 }
-    }
+    SignalSpy { id: updates; signalName: "updated" }
     SignalSpy { id: selections; signalName: "select" }
 
-    function test_gallery() {
+    function init() { delivered = [] }
+
+    function stepper(value) {
+        const control = createTemporaryObject(stepperComponent, testCase, { value: value })
+        updates.target = control
+        updates.clear()
+        return control
+    }
+
+    // The empty text is handed over at once; a text only once typing has paused for a whole second.
+    function test_searchBarHandsOverTheTextOnceTypingPauses_data() {
+        return [{ tag: "nothing typed", keys: "", text: "" }, { tag: "quick typing", keys: "rice", text: "rice" }]
+    }
+
+    function test_searchBarHandsOverTheTextOnceTypingPauses(data) {
+        const bar = createTemporaryObject(barComponent, testCase)
+        findChild(bar, "searchField").forceActiveFocus()
+        compare(delivered, [""])
+        for (const key of data.keys) {
+            keyClick(key)
+            wait(150)
+        }
+        wait(600) // well past half a second since the last key
+        compare(delivered, [""])
+        tryVerify(() => delivered.length === 2, 3000)
+        compare(delivered, ["", data.text])
+        shoot(bar, "search-bar")
+    }
+
+    function test_searchBarHandsOverTheTextAtEnter() {
+        findChild(createTemporaryObject(barComponent, testCase), "searchField").forceActiveFocus()
+        for (const key of "rice")
+            keyClick(key)
+        keyClick(Qt.Key_Return)
+        compare(delivered, ["", "rice"])
+    }
+
+    function test_searchBarTurnsTheArrowsWhileLoading() {
+        const bar = createTemporaryObject(barComponent, testCase)
+        const icon = findChild(bar, "searchIcon")
+        const magnifier = icon.text
+        bar.isLoading = true
+        verify(icon.text !== magnifier && bar.isAnimating)
+        tryVerify(() => icon.rotation > 0, 2000)
+        bar.isLoading = false
+        verify(icon.text === magnifier && !bar.isAnimating)
+    }
+
+    // What is typed over the selected number, or given at the start, is kept within the bounds.
+    function test_stepperNormalisesItsText_data() {
+        return [
+            { tag: "starts at zero", start: "0", keys: "", expected: "1" },
+            { tag: "letters and a point", start: "1", keys: "1a.5", expected: "15" },
+            { tag: "too large", start: "1", keys: "123456", expected: "99999" },
+        ]
+    }
+
+    function test_stepperNormalisesItsText(data) {
+        const control = stepper(data.start)
+        const field = findChild(control, "numberField")
+        field.forceActiveFocus()
+        field.selectAll()
+        for (const key of data.keys)
+            keyClick(key)
+        compare(field.text, data.expected)
+        compare(control.value, data.expected)
+        shoot(control, "number-stepper")
+    }
+
+    // A tap, Return or Space steps once, never past a bound.
+    function test_stepperStepsOnceWithinTheBounds() {
+        const control = stepper("1")
+        const minus = findChild(control, "minusButton"), plus = findChild(control, "plusButton")
+        mouseClick(minus)
+        compare(control.value, "1")
+        mouseClick(plus)
+        compare(updates.signalArguments.map(a => a[0]), [2])
+        plus.forceActiveFocus()
+        keyClick(Qt.Key_Return)
+        compare(control.value, "3")
+        minus.forceActiveFocus()
+        keyClick(Qt.Key_Space)
+        compare(control.value, "2")
+        control.value = "99999"
+        mouseClick(plus)
+        compare(control.value, "99999")
+    }
+
+    // Holding repeats the step, down to the minimum at most, until the release.
+    function test_stepperRepeatsWhileHeld() {
+        const control = stepper("4")
+        const minus = findChild(control, "minusButton")
+        mousePress(minus)
+        tryCompare(control, "value", "1", 5000)
+        verify(control.stepper.isLongPressing)
+        mouseRelease(minus)
+        verify(!control.stepper.isLongPressing)
+    }
+
+    // The picker reports a tap; the owner writes the choice back, so the owner's binding stays in force.
+    function test_pickerReportsTheChoiceAndTheOwnerWritesIt() {
         const g = createTemporaryObject(gallery, testCase)
         waitForRendering(g)
-        if (SessionProbe.screenshotDir !== "")
-            grabImage(g).save(SessionProbe.screenshotDir + "/widgets.png")
+        shoot(g, "widgets")
         verify(g.spinner.isAnimating)
-    }
-
-    function test_frameWithoutBackButtonShowsOnlyTheTitle() {
-        const g = createTemporaryObject(gallery, testCase)
-        compare(findChild(g.frame, "backRow").visible, false)
-        compare(findChild(g.frame, "title").text, "Carb Calculator")
-        compare(findChild(g.untitled, "title").text, "")
-        compare(findChild(g.untitled, "titleBar").height, findChild(g.frame, "titleBar").height)
-    }
-
-    function segment(picker, index) {
-        return picker.children[0].children[index]
-    }
-
-    function test_pickerShowsAndTakesTheSelection() {
-        const g = createTemporaryObject(gallery, testCase)
+        g.header.title = "Branded"
+        compare(g.header.shownTitle, "Non-Branded") // a list header keeps its first title
         const picker = g.picker
         selections.target = picker
         selections.clear()
-        verify(segment(picker, 1).isSelected)
-        verify(!segment(picker, 0).isSelected)
-        compare(segment(picker, 1).fill, Look.detailColor)
-        mouseClick(segment(picker, 0))
+        const segment = index => picker.children[0].children[index]
+        verify(segment(1).isSelected && !segment(0).isSelected)
+        mouseClick(segment(0))
         compare(picker.selected, 0)
-        picker.ownerChoice = 1 // the owner's binding is still in force
+        picker.ownerChoice = 1
         compare(picker.selected, 1)
         picker.ownerChoice = 0
-        compare(selections.count, 1)
-        compare(selections.signalArguments[0][0], 0)
-        mouseClick(segment(picker, 0)) // the selected option tells the owner again
+        compare(selections.signalArguments.map(a => a[0]), [0])
+        mouseClick(segment(0)) // the selected option tells the owner again
         compare(selections.count, 2)
-        segment(picker, 1).forceActiveFocus()
+        segment(1).forceActiveFocus()
         keyClick(Qt.Key_Return)
         compare(picker.selected, 1)
-        picker.selected = 5
-        verify(!segment(picker, 0).isSelected && !segment(picker, 1).isSelected)
-    }
-
-    function test_listHeaderKeepsItsFirstTitle() {
-        const g = createTemporaryObject(gallery, testCase)
-        g.filled.title = "Branded"
-        compare(g.filled.shownTitle, "Non-Branded")
-        compare(findChild(g.filled, "rightTitle").visible, true)
-        compare(findChild(g.outlined, "rightTitle").visible, false)
-        g.outlined.rightTitle = ""
-        compare(findChild(g.outlined, "rightTitle").visible, true)
-        compare(g.outlined.color, Qt.rgba(0, 0, 0, 0))
-    }
-
-    function test_spinnerLineWidthFollowsTheSmallerSide() {
-        const spinner = createTemporaryObject(sizedSpinner, testCase)
-        compare(spinner.lineWidth, 20 / 14)
-        verify(spinner.isAnimating)
     }
 }
