@@ -76,7 +76,7 @@ int main(int argc, char **argv)
     QQmlComponent component(&engine);
     component.setData("import QtQuick\nimport QtQuick.Controls.Basic\nimport Nutrika\n"
                       "Window { width: 400; height: 720; visible: true\n"
-                      "  StackView { id: stack; anchors.fill: parent\n"
+                      "  NavigationStack { id: stack; anchors.fill: parent\n"
                       "    initialItem: ItemSearchScreen { objectName: \"search\"; navigation: stack } } }",
                       QUrl());
     auto *window = qobject_cast<QQuickWindow *>(component.create());

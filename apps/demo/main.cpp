@@ -23,28 +23,28 @@ constexpr QSize previewSize(430, 860);
 const QMap<QString, QByteArray> previews = {
     {u"calculator"_s,
      "import Nutrika\nNutrikaRoot { calculator: CarbCounterUIView { preview: Preview.Main } }\n"},
-    {u"portion"_s, "import QtQuick.Controls.Basic\nimport Nutrika\nStackView { id: s; initialItem: "
+    {u"portion"_s, "import Nutrika\nNavigationStack { id: s; initialItem: "
                    "SelectPortionScreen { navigation: s; uiView.preview: Preview.Images } }\n"},
     {u"portion-descriptions"_s,
-     "import QtQuick.Controls.Basic\nimport Nutrika\nStackView { id: s; initialItem: "
+     "import Nutrika\nNavigationStack { id: s; initialItem: "
      "SelectPortionScreen { navigation: s; uiView.preview: Preview.Descriptions } }\n"},
-    {u"preview-add"_s, "import QtQuick.Controls.Basic\nimport Nutrika\nStackView { id: s; initialItem: "
+    {u"preview-add"_s, "import Nutrika\nNavigationStack { id: s; initialItem: "
                        "AddToCalcPreviewScreen { navigation: s; uiView.preview: Preview.AddNew } }\n"},
-    {u"preview-edit"_s, "import QtQuick.Controls.Basic\nimport Nutrika\nStackView { id: s; initialItem: "
+    {u"preview-edit"_s, "import Nutrika\nNavigationStack { id: s; initialItem: "
                         "AddToCalcPreviewScreen { navigation: s; uiView.preview: Preview.Edit } }\n"},
     {u"meal-new"_s,
-     "import QtQuick.Controls.Basic\nimport Nutrika\nStackView { id: s; initialItem: "
+     "import Nutrika\nNavigationStack { id: s; initialItem: "
      "CreateRecipeScreen { navigation: s; uiView.preview: CreateRecipeUIView.PreviewCreate } }\n"},
     {u"meal-edit"_s,
-     "import QtQuick.Controls.Basic\nimport Nutrika\nStackView { id: s; initialItem: "
+     "import Nutrika\nNavigationStack { id: s; initialItem: "
      "CreateRecipeScreen { navigation: s; uiView.preview: CreateRecipeUIView.PreviewEdit } }\n"},
     {u"meal-view"_s,
-     "import QtQuick.Controls.Basic\nimport Nutrika\nStackView { id: s; initialItem: "
+     "import Nutrika\nNavigationStack { id: s; initialItem: "
      "CreateRecipeScreen { navigation: s; uiView.preview: CreateRecipeUIView.PreviewView } }\n"},
     {u"meal-select"_s,
-     "import QtQuick.Controls.Basic\nimport Nutrika\nStackView { id: s; initialItem: "
+     "import Nutrika\nNavigationStack { id: s; initialItem: "
      "CreateRecipeScreen { navigation: s; uiView.preview: CreateRecipeUIView.PreviewSelect } }\n"},
-    {u"meals"_s, "import QtQuick.Controls.Basic\nimport Nutrika\nStackView { id: s; initialItem: "
+    {u"meals"_s, "import Nutrika\nNavigationStack { id: s; initialItem: "
                  "RecipeSearchScreen { navigation: s; uiView.preview: Preview.Main } }\n"},
     {u"suggestions"_s,
      "import QtQuick\nimport Nutrika\nRectangle { color: \"#808080\"\n"

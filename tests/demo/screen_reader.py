@@ -279,6 +279,7 @@ def describe(status):
 # ends in "*" is a prefix; one that starts with "!" matches any other name. Every way starts on the
 # search screen: the module opens on it, and an empty calculator shows it again.
 MEALS = [("press", "page tab", "Meals")]
+MEAL_EDITOR = MEALS + [("press", "push button", "Create Meal")]
 PORTIONS = [("type", "Search", "apple"), ("press", "push button", "*", ("list", "Search results"))]
 PREVIEW = PORTIONS + [("press", "radio button", "!Custom amount*", ("list", "Portions")),
                       ("press", "push button", "Select Portion")]
@@ -290,6 +291,8 @@ CALCULATOR = ("push button", "Search more foods")
 ROUTES = [
     ("search", [], SEARCH, [("Back", [], SEARCH), ("Close", [], HOST)]),
     ("meals", MEALS, ("page tab", "Meals"), [("Back", [], SEARCH), ("Close", [], HOST)]),
+    ("meal editor", MEAL_EDITOR, ("push button", "Save Meal"),
+     [("Back", ["Close"], HOST), ("Close", [], HOST)]),
     ("portions", PORTIONS, ("list", "Portions"), [("Back", [], SEARCH)]),
     ("preview", PREVIEW, ("push button", "Add to calculator"),
      [("Back", ["Back", "Close"], HOST), ("Close", [], HOST)]),

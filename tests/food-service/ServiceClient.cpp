@@ -1,37 +1,28 @@
 #include "ServiceClient.h"
 
 #include <QEventLoop>
+#include <QJsonArray>
 #include <QNetworkReply>
-#include <QNetworkRequest>
-#include <QRegularExpression>
 #include <QSslSocket>
 #include <QTimer>
 #include <QUrl>
+
+using namespace Qt::Literals::StringLiterals;
 
 ServiceClient::ServiceClient(const FoodServiceProcess &service) : m_service(service) {}
 
 ServiceReply ServiceClient::get(const QByteArray &target)
 {
-    return get(target, {{"Authorization", "Api-Key " + m_service.apiKey().toUtf8()}});
-}
-
-ServiceReply ServiceClient::get(const QByteArray &target, const Headers &headers)
-{
     QNetworkRequest request(QUrl::fromEncoded(m_service.origin().toUtf8() + target));
     request.setSslConfiguration(m_service.sslConfiguration());
-    for (const auto &[name, value] : headers)
-        request.setRawHeader(name, value);
+    request.setRawHeader("Authorization", "Api-Key " + m_service.apiKey().toUtf8());
     QNetworkReply *reply = m_network.get(request);
     QEventLoop loop;
     QObject::connect(reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
     QTimer::singleShot(60000, &loop, &QEventLoop::quit);
     loop.exec();
-    ServiceReply result;
-    result.status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    result.body = reply->readAll();
-    result.contentType = reply->header(QNetworkRequest::ContentTypeHeader).toByteArray();
-    if (result.status == 0)
-        result.transportError = reply->errorString();
+    ServiceReply result{reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt(), reply->readAll(),
+                        reply->header(QNetworkRequest::ContentTypeHeader).toByteArray()};
     reply->deleteLater();
     return result;
 }
@@ -42,27 +33,34 @@ ServiceReply ServiceClient::sendRaw(const QByteArray &request)
     QSslSocket socket;
     socket.setSslConfiguration(m_service.sslConfiguration());
     socket.connectToHostEncrypted(origin.host(), static_cast<quint16>(origin.port()));
-    ServiceReply result;
-    if (!socket.waitForEncrypted(60000)) {
-        result.transportError = socket.errorString();
-        return result;
-    }
+    if (!socket.waitForEncrypted(60000))
+        return {};
     socket.write(request);
-    // Reads until the server closes or the whole reply is in.
-    static const QRegularExpression contentLength(QStringLiteral("\r\nContent-Length: *(\\d+)"),
-                                                  QRegularExpression::CaseInsensitiveOption);
-    while (socket.waitForReadyRead(60000)) {
-        result.body += socket.readAll();
-        const auto headerEnd = result.body.indexOf("\r\n\r\n");
-        const auto length = contentLength.match(QString::fromLatin1(result.body.left(headerEnd)));
-        if (headerEnd >= 0 && length.hasMatch() &&
-            result.body.size() >= headerEnd + 4 + length.captured(1).toInt())
-            break;
-    }
-    // "HTTP/1.1 400 Bad Request" then headers and the body.
-    const QList<QByteArray> statusLine = result.body.left(result.body.indexOf("\r\n")).split(' ');
-    result.status = statusLine.size() > 1 ? statusLine.at(1).toInt() : 0;
-    const auto bodyStart = result.body.indexOf("\r\n\r\n");
-    result.body = bodyStart < 0 ? QByteArray() : result.body.mid(bodyStart + 4);
-    return result;
+    QByteArray received;
+    while (socket.waitForReadyRead(60000))
+        received += socket.readAll();
+    // "HTTP/1.1 400 Bad Request", the headers, a blank line and the body.
+    const auto bodyStart = received.indexOf("\r\n\r\n");
+    return {received.left(received.indexOf("\r\n")).split(' ').value(1).toInt(),
+            bodyStart < 0 ? QByteArray() : received.mid(bodyStart + 4),
+            {}};
+}
+
+QString describePortion(const QJsonValue &portion)
+{
+    return u"[%2] %1: %3, %4 g%5%6"_s.arg(
+        QString::number(portion[u"id"].toInteger()), QString::number(portion[u"order_num"].toInt()),
+        portion[u"description"].toString(), QString::number(portion[u"size"].toDouble()),
+        portion[u"is_default"].toBool() ? u", default"_s : QString(),
+        portion[u"image_name"].toString().isEmpty() ? QString() : u", pictured"_s);
+}
+
+QStringList describeNutrients(const QJsonValue &nutrients)
+{
+    QStringList lines;
+    for (const auto &nutrient : nutrients.toArray())
+        lines << nutrient[u"nutrient"][u"name"].toString() + u' ' +
+                     QString::number(nutrient[u"amount"][u"value"].toDouble()) + u' ' +
+                     nutrient[u"amount"][u"units"].toString();
+    return lines;
 }

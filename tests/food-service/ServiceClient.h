@@ -4,36 +4,36 @@
 
 #include <QByteArray>
 #include <QJsonDocument>
-#include <QList>
 #include <QNetworkAccessManager>
-#include <QPair>
+#include <QStringList>
 
 struct ServiceReply
 {
     int status = 0;
     QByteArray body;
     QByteArray contentType;
-    QString transportError;
     [[nodiscard]] QJsonDocument json() const { return QJsonDocument::fromJson(body); }
 };
 
-// Blocking GET requests to a FoodServiceProcess. Targets are sent byte for byte:
-// the double slash and the percent escapes stay as written.
+// Blocking requests to a FoodServiceProcess. Targets are sent byte for byte: the double slash
+// and the percent escapes stay as written.
 class ServiceClient
 {
 public:
-    using Headers = QList<QPair<QByteArray, QByteArray>>;
-
     explicit ServiceClient(const FoodServiceProcess &service);
 
-    // With the right "Authorization: Api-Key" header.
+    // A GET with the right "Authorization: Api-Key" header.
     ServiceReply get(const QByteArray &target);
-    ServiceReply get(const QByteArray &target, const Headers &headers);
-    // Sends `request` as written over a new TLS connection: for requests a
-    // well-behaved client would never send. Only the status is read.
+    // Sends `request` as written over a new TLS connection, for requests a well-behaved client
+    // would never send, and reads until the service closes it.
     ServiceReply sendRaw(const QByteArray &request);
 
 private:
     const FoodServiceProcess &m_service;
     QNetworkAccessManager m_network;
 };
+
+// Replies as lines, to compare whole: "[1] 904001: 1 cup, mashed, 225 g, default, pictured" for a
+// portion, "Carbohydrates 26.9512 grams" for each nutrient of a list.
+QString describePortion(const QJsonValue &portion);
+QStringList describeNutrients(const QJsonValue &nutrients);

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Controls.Basic
 import Nutrika
 import NutrikaTest
 
@@ -7,7 +6,7 @@ ScreenTestCase {
     id: testCase
     name: "Navigation"
 
-    Component { id: stackComponent; StackView { anchors.fill: parent; initialItem: Item {} } }
+    Component { id: stackComponent; NavigationStack { anchors.fill: parent; initialItem: Item {} } }
     Component { id: linkComponent; NavigationLink { destinationUrl: Qt.resolvedUrl("PushedScreen.qml") } }
 
     function makeLink(stack, extra) {

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Controls.Basic
 import QtTest
 import Nutrika
 import NutrikaTest

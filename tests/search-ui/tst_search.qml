@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Controls.Basic
 import QtTest
 import Nutrika
 import NutrikaTest
@@ -14,7 +13,7 @@ TestCase {
 
     Component {
         id: stackComponent
-        StackView { anchors.fill: parent }
+        NavigationStack { anchors.fill: parent }
     }
     Component {
         id: containerComponent

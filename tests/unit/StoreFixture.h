@@ -18,8 +18,6 @@ public:
         qputenv("XDG_CONFIG_HOME", QByteArray(m_home.path().toUtf8() + "/config"));
     }
 
-    [[nodiscard]] QString home() const { return m_home.path(); }
-
     /// Writes any value under the meal key, as another program might.
     static void storeRaw(const QVariant &value)
     {
@@ -30,13 +28,12 @@ public:
 
     static void clear() { storeRaw(QVariant()); }
 
-    /// The meal document exactly as stored.
     [[nodiscard]] static QByteArray storedDocument()
     {
         return nutrika::Preferences().valueOnDisk(QStringLiteral("recipes")).toByteArray();
     }
 
-    /// Overwrites the whole preferences file, as a crash of the disk or another program might.
+    /// Overwrites the whole preferences file, as a failing disk or another program might.
     static void overwriteFile(const QByteArray &bytes)
     {
         QFile file(nutrika::Preferences().fileName());

@@ -1,7 +1,6 @@
 #include "CarbCounterUIView.h"
 #include "EnvironmentVariables.h"
 #include "ExampleData.h"
-#include "Formatting.h"
 #include "StdoutCapture.h"
 
 #include <QAbstractItemModelTester>
@@ -54,32 +53,6 @@ private slots:
         env->setDismissFunction([] {});
     }
 
-    void amountText_data()
-    {
-        QTest::addColumn<double>("amount");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("whole") << 12.0 << u"12 g"_s;
-        QTest::newRow("half") << 12.5 << u"12.5 g"_s;
-        QTest::newRow("zero") << 0.0 << u"0 g"_s;
-        QTest::newRow("hundred") << 100.0 << u"100 g"_s;
-        QTest::newRow("ten and a half") << 10.5 << u"10.5 g"_s;
-        QTest::newRow("a tenth") << 0.1 << u"0.1 g"_s;
-        QTest::newRow("thousands") << 1005.0 << u"1005 g"_s;
-        // Never shorten a real digit: an unrounded 10.05 must not read as 105.
-        QTest::newRow("zero digit kept") << 10.05 << u"10.05 g"_s;
-        // Large amounts stay plain decimals: never "1e+05 g".
-        QTest::newRow("hundred thousand") << 100000.0 << u"100000 g"_s;
-        QTest::newRow("stepper maximum") << 1289987.1 << u"1289987.1 g"_s;
-        QTest::newRow("tiny") << 0.00001 << u"0.00001 g"_s;
-    }
-
-    void amountText()
-    {
-        QFETCH(double, amount);
-        QFETCH(QString, expected);
-        QCOMPARE(nutrika::amountText(amount), expected);
-    }
-
     void linesAmountsAndTotal()
     {
         CarbCounterUIView view;
@@ -96,6 +69,13 @@ private slots:
                  (QStringList{u"true"_s, u"true"_s, u"false"_s, u"false"_s}));
         QCOMPARE(view.totalText(), u"135.5 g"_s);
         QCOMPARE(view.counterHeader(), u"Total Carbohydrates"_s);
+
+        // A line whose nutrients never arrived shows no amount and counts zero.
+        env->setTrackedNutrientListItems(
+            {DiaryEntryPtr::create(123, example::examplePortionItem(), example::exampleSelectedFood()),
+             foodLine(2, 1)});
+        QCOMPARE(column(view, CalculatorLinesModel::AmountRole), (QStringList{QString(), u"2 g"_s}));
+        QCOMPARE(view.totalText(), u"2 g"_s);
     }
 
     // Edits made on other screens, to a line or to an ingredient of a meal line, reach the row and the
@@ -148,18 +128,6 @@ private slots:
         QVERIFY(env->TrackedNutrientListItems().isEmpty());
         QCOMPARE(view.totalText(), u"0 g"_s);
         QVERIFY(!env->searchActive()); // not reopened until the screen shows again
-    }
-
-    void aLineWithoutItsRecordShowsNoAmountAndCountsZero()
-    {
-        CarbCounterUIView view;
-        const auto incomplete =
-            DiaryEntryPtr::create(123, example::examplePortionItem(), example::exampleSelectedFood());
-        env->setTrackedNutrientListItems({incomplete, foodLine(2, 1)});
-        QCOMPARE(column(view, CalculatorLinesModel::TitleRole)[0],
-                 example::exampleSelectedFood().description);
-        QCOMPARE(column(view, CalculatorLinesModel::AmountRole)[0], QString());
-        QCOMPARE(view.totalText(), u"2 g"_s);
     }
 
     void appearanceSteps_data()

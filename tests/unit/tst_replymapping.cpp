@@ -89,45 +89,8 @@ private slots:
         QCOMPARE(describe(page->branded),
                  QStringList({u"Banana Chips #7/7 Acme branded"_s, u"Banana Bread #8/8 Bakery branded"_s,
                               u"Banana Split #10/10 Diner branded"_s}));
-    }
-
-    void mapsAnEmptyFirstPage()
-    {
-        const auto result = mapFoodSearchReply(ok(R"({"count":0,"results":[]})"));
-        QVERIFY(std::holds_alternative<FoodSearchPage>(result));
-        QCOMPARE(std::get<FoodSearchPage>(result).count, 0);
-    }
-
-    void failsUnusableSearchReplies_data()
-    {
-        QTest::addColumn<ServiceReply>("reply");
-        QTest::addColumn<ServiceFailure>("failure");
-        const auto server = ServiceFailure::ServerError;
-        QTest::newRow("no response") << ServiceReply::classify(std::nullopt, {})
-                                     << ServiceFailure::ConnectionFailure;
-        QTest::newRow("404") << ServiceReply::classify(404, R"({"count":0,"results":[]})") << server;
-        QTest::newRow("not JSON") << ok("<html>oops</html>") << server;
-        QTest::newRow("truncated") << ok(R"({"count":1,"results":[{"id":1,)") << server;
-        QTest::newRow("array") << ok("[]") << server;
-        QTest::newRow("count as text") << ok(R"({"count":"3","results":[]})") << server;
-        QTest::newRow("no results") << ok(R"({"count":3})") << server;
-        QTest::newRow("food without brand")
-            << ok(R"({"count":1,"results":[{"id":1,"description":"x","is_generic_item":1}]})") << server;
-        QTest::newRow("generic flag as text")
-            << ok(R"({"count":1,"results":[{"id":1,"description":"x","food_brand":"","is_generic_item":"1"}]})")
-            << server;
-        QTest::newRow("id out of range")
-            << ok(R"({"count":1,"results":[{"id":1e300,"description":"x","food_brand":"","is_generic_item":1}]})")
-            << server;
-    }
-
-    void failsUnusableSearchReplies()
-    {
-        QFETCH(ServiceReply, reply);
-        QFETCH(ServiceFailure, failure);
-        const auto result = mapFoodSearchReply(reply);
-        QVERIFY(std::holds_alternative<ServiceFailure>(result));
-        QCOMPARE(std::get<ServiceFailure>(result), failure);
+        const auto empty = mapFoodSearchReply(ok(R"({"count":0,"results":[]})"));
+        QCOMPARE(std::get<FoodSearchPage>(empty).count, 0);
     }
 
     void mapsFilterOptions_data()
@@ -155,23 +118,6 @@ private slots:
         QVERIFY(options);
         QCOMPARE(options->brands, brands);
         QCOMPARE(options->categories, categories);
-    }
-
-    void failsUnusableFilterOptions_data()
-    {
-        QTest::addColumn<QByteArray>("body");
-        QTest::newRow("number option") << QByteArray(R"({"brands":[3]})");
-        QTest::newRow("object without label") << QByteArray(R"({"categories":[{"name":"Fruits"}]})");
-        QTest::newRow("label not text") << QByteArray(R"({"brands":[{"label":null}]})");
-        QTest::newRow("not JSON") << QByteArray("brands");
-        QTest::newRow("array") << QByteArray(R"(["Acme"])");
-    }
-
-    void failsUnusableFilterOptions()
-    {
-        QFETCH(QByteArray, body);
-        QVERIFY(
-            std::holds_alternative<ServiceFailure>(mapFilterOptionsReply(ServiceReply::classify(200, body))));
     }
 
     void mapsPortions_data()
@@ -213,28 +159,6 @@ private slots:
         QVERIFY(list);
         const QString neighbour = u"1 #2/2 118 g medium  unknown 1"_s;
         QCOMPARE(describe(*list), QStringList{neighbour} + portions + QStringList{neighbour});
-    }
-
-    void failsUnusablePortionReplies_data()
-    {
-        QTest::addColumn<ServiceReply>("reply");
-        QTest::addColumn<ServiceFailure>("failure");
-        const auto server = ServiceFailure::ServerError;
-        QTest::newRow("no response") << ServiceReply::classify(std::nullopt, {})
-                                     << ServiceFailure::ConnectionFailure;
-        QTest::newRow("500") << ServiceReply::classify(500, R"({"portions":[]})") << server;
-        QTest::newRow("not JSON") << ok("") << server;
-        QTest::newRow("no portions") << ok(R"({"items":[]})") << server;
-        QTest::newRow("portions not an array") << ok(R"({"portions":{}})") << server;
-    }
-
-    void failsUnusablePortionReplies()
-    {
-        QFETCH(ServiceReply, reply);
-        QFETCH(ServiceFailure, failure);
-        const auto result = mapPortionsReply(reply);
-        QVERIFY(std::holds_alternative<ServiceFailure>(result));
-        QCOMPARE(std::get<ServiceFailure>(result), failure);
     }
 
     void mapsNutrients_data()
@@ -284,21 +208,6 @@ private slots:
         QCOMPARE(mapped->trackedNutrient ? describe(*mapped->trackedNutrient) : QString(), tracked);
     }
 
-    void failsUnusableNutrientReplies_data()
-    {
-        QTest::addColumn<ServiceReply>("reply");
-        QTest::newRow("no response") << ServiceReply::classify(std::nullopt, {});
-        QTest::newRow("400") << ServiceReply::classify(400, "{}");
-        QTest::newRow("not JSON") << ok("nutrients");
-        QTest::newRow("array") << ok("[]");
-    }
-
-    void failsUnusableNutrientReplies()
-    {
-        QFETCH(ServiceReply, reply);
-        QVERIFY(std::holds_alternative<ServiceFailure>(mapNutrientsReply(reply)));
-    }
-
     void mapsAccompanyingFoods_data()
     {
         QTest::addColumn<ServiceReply>("reply");
@@ -326,18 +235,66 @@ private slots:
         QCOMPARE(describe(std::get<QList<FoodItem>>(result)), foods);
     }
 
-    void failsUnusableAccompanyingFoods_data()
+    // Replies no mapper can use: each names the failure the screens show.
+    void failsUnusableReplies_data()
     {
+        QTest::addColumn<QString>("mapper");
         QTest::addColumn<ServiceReply>("reply");
-        QTest::newRow("no response") << ServiceReply::classify(std::nullopt, {});
-        QTest::newRow("404") << ServiceReply::classify(404, "[]");
-        QTest::newRow("not JSON") << ok("[{");
+        QTest::addColumn<ServiceFailure>("failure");
+        const auto connection = ServiceFailure::ConnectionFailure;
+        const ServiceReply none = ServiceReply::classify(std::nullopt, {});
+        for (const char *mapper : {"search", "filters", "portions", "nutrients", "accompanying"})
+            QTest::addRow("%s: no response", mapper) << QString::fromLatin1(mapper) << none << connection;
+        const auto row = [](const char *name, const char *mapper, const ServiceReply &reply) {
+            QTest::newRow(name) << QString::fromLatin1(mapper) << reply << ServiceFailure::ServerError;
+        };
+        row("search: 404", "search", ServiceReply::classify(404, R"({"count":0,"results":[]})"));
+        row("search: not JSON", "search", ok("<html>oops</html>"));
+        row("search: truncated", "search", ok(R"({"count":1,"results":[{"id":1,)"));
+        row("search: array", "search", ok("[]"));
+        row("search: count as text", "search", ok(R"({"count":"3","results":[]})"));
+        row("search: no results", "search", ok(R"({"count":3})"));
+        row("search: food without brand", "search",
+            ok(R"({"count":1,"results":[{"id":1,"description":"x","is_generic_item":1}]})"));
+        row("search: generic flag as text", "search",
+            ok(R"({"count":1,"results":[{"id":1,"description":"x","food_brand":"","is_generic_item":"1"}]})"));
+        row("search: id out of range", "search",
+            ok(R"({"count":1,"results":[{"id":1e300,"description":"x","food_brand":"","is_generic_item":1}]})"));
+        row("filters: number option", "filters", ok(R"({"brands":[3]})"));
+        row("filters: object without label", "filters", ok(R"({"categories":[{"name":"Fruits"}]})"));
+        row("filters: label not text", "filters", ok(R"({"brands":[{"label":null}]})"));
+        row("filters: array", "filters", ok(R"(["Acme"])"));
+        row("portions: 500", "portions", ServiceReply::classify(500, R"({"portions":[]})"));
+        row("portions: not JSON", "portions", ok(""));
+        row("portions: no portions", "portions", ok(R"({"items":[]})"));
+        row("portions: not an array", "portions", ok(R"({"portions":{}})"));
+        row("nutrients: 400", "nutrients", ServiceReply::classify(400, "{}"));
+        row("nutrients: array", "nutrients", ok("[]"));
+        row("accompanying: 404", "accompanying", ServiceReply::classify(404, "[]"));
+        row("accompanying: not JSON", "accompanying", ok("[{"));
     }
 
-    void failsUnusableAccompanyingFoods()
+    void failsUnusableReplies()
     {
+        QFETCH(QString, mapper);
         QFETCH(ServiceReply, reply);
-        QVERIFY(std::holds_alternative<ServiceFailure>(mapAccompanyingFoodsReply(reply)));
+        QFETCH(ServiceFailure, failure);
+        const auto failureOf = [](const auto &result) {
+            const auto *failed = std::get_if<ServiceFailure>(&result);
+            return failed ? std::optional(*failed) : std::nullopt;
+        };
+        std::optional<ServiceFailure> got;
+        if (mapper == u"search"_s)
+            got = failureOf(mapFoodSearchReply(reply));
+        else if (mapper == u"filters"_s)
+            got = failureOf(mapFilterOptionsReply(reply));
+        else if (mapper == u"portions"_s)
+            got = failureOf(mapPortionsReply(reply));
+        else if (mapper == u"nutrients"_s)
+            got = failureOf(mapNutrientsReply(reply));
+        else
+            got = failureOf(mapAccompanyingFoodsReply(reply));
+        QCOMPARE(got, std::optional(failure));
     }
 
     void decodesPortionPictures_data()

@@ -29,17 +29,6 @@ private slots:
         QCOMPARE(EnvironmentVariables::shared()->thread(), QThread::currentThread());
     }
 
-    void initialValues()
-    {
-        const EnvironmentVariables *env = EnvironmentVariables::shared();
-        QCOMPARE(env->portionActive(), -1);
-        QVERIFY(!env->searchActive() && !env->recipeSearchActive() && !env->accompanimentsActive());
-        QVERIFY(!env->editRecipeActive() && !env->foodItemForAccompaniments());
-        QVERIFY(env->TrackedNutrientListItems().isEmpty() && env->CurrentRecipeItems().isEmpty());
-        QVERIFY(env->recipeList()->items().isEmpty());
-        env->dismiss(); // the initial action does nothing
-    }
-
     void everyWriteIsAnnounced_data()
     {
         QTest::addColumn<QByteArray>("signal");
@@ -105,15 +94,6 @@ private slots:
         env->recipeList()->setItems({example::exampleRecipe()});
         QCOMPARE(listSpy.size(), 1);
         QCOMPARE(sessionSpy.size(), 0);
-    }
-
-    void dismissRunsTheInstalledAction()
-    {
-        int calls = 0;
-        EnvironmentVariables::shared()->setDismissFunction([&calls] { ++calls; });
-        EnvironmentVariables::shared()->dismiss();
-        QCOMPARE(calls, 1);
-        EnvironmentVariables::shared()->setDismissFunction([] {});
     }
 };
 

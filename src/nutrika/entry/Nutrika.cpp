@@ -4,7 +4,9 @@
 #include "EnvironmentVariables.h"
 #include "ItemTeardown.h"
 #include "Look.h"
+#include "SymbolIcons.h"
 
+#include <QFontDatabase>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQmlExtensionPlugin>
@@ -40,6 +42,10 @@ public:
 void prepareNutrikaEngine(QQmlEngine &engine)
 {
     engine.addImportPath(u"qrc:/qt/qml"_s);
+    // Adding a font drops every font engine already built, so the icon font comes before any text is
+    // laid out; and after the system fonts are listed, or their WOFF2 copy of it would win.
+    (void)QFontDatabase::families();
+    (void)symbolFontFamily();
 }
 
 QWidget *initNutrika(const QString &apiKey, std::function<void()> onDismissCallback)

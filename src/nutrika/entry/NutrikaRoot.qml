@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Nutrika
 
 // The module's root: one navigation stack over the calculator. Escape goes back one screen.
@@ -49,16 +48,11 @@ FocusScope {
         color: Look.detailColor
     }
 
-    // The stack from the templates, with the usual slide: the first screen need not load a style.
-    T.StackView {
+    NavigationStack {
         id: navigation
         objectName: "navigation"
         anchors.fill: parent
         focus: true
-        pushEnter: Transition { XAnimator { from: navigation.width; to: 0; duration: 400; easing.type: Easing.OutCubic } }
-        pushExit: Transition { XAnimator { from: 0; to: -navigation.width; duration: 400; easing.type: Easing.OutCubic } }
-        popEnter: Transition { XAnimator { from: -navigation.width; to: 0; duration: 400; easing.type: Easing.OutCubic } }
-        popExit: Transition { XAnimator { from: 0; to: navigation.width; duration: 400; easing.type: Easing.OutCubic } }
         initialItem: CarbCounterScreen {
             uiView: root.calculator
             navigation: navigation

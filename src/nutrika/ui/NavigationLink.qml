@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Nutrika
 
 // Qt 6.4's linter knows neither 64-bit integers, nor the types of components that reach ids outside
@@ -14,7 +13,7 @@ import Nutrika
 QtObject {
     id: link
 
-    required property T.StackView navigation
+    required property NavigationStack navigation
     property bool active: false
     // A Destinations screen.
     property int destination: -1
@@ -49,7 +48,7 @@ QtObject {
     function popScreen() {
         if (!screen)
             return
-        const index = screen.T.StackView.index
+        const index = screen.NavigationStack.index
         screen = null
         if (index > 0)
             navigation.pop(navigation.get(index - 1))
@@ -60,7 +59,7 @@ QtObject {
     function sync() {
         if (!navigation || navigation.busy || !navigation.currentItem || pushing)
             return
-        if (screen && screen.T.StackView.index < 0) {
+        if (screen && screen.NavigationStack.index < 0) {
             // A link below this one popped the screen: it stays closed until the flag is written again.
             screen = null
             backedOut = true

@@ -29,19 +29,18 @@ QString symbolGlyph(const QString &symbolName)
 QString symbolFontFamily()
 {
     static const QString family = [] {
-        // The installed font is found by family; loading the file again would cost the first screen
-        // several milliseconds.
-        const QString installed = u"Material Icons"_s;
-        if (QFontDatabase::hasFamily(installed))
-            return installed;
+        // The TrueType file, not the family: fontconfig prefers the installed WOFF2 copy, whose
+        // decompression costs the first screen more than reading the plain file.
         const QString path = QStandardPaths::locate(
             QStandardPaths::GenericDataLocation,
             u"fonts/truetype/material-design-icons-iconfont/MaterialIcons-Regular.ttf"_s);
-        if (path.isEmpty())
-            return QString();
         const QStringList families =
-            QFontDatabase::applicationFontFamilies(QFontDatabase::addApplicationFont(path));
-        return families.isEmpty() ? QString() : families.first();
+            path.isEmpty() ? QStringList()
+                           : QFontDatabase::applicationFontFamilies(QFontDatabase::addApplicationFont(path));
+        if (!families.isEmpty())
+            return families.first();
+        const QString installed = u"Material Icons"_s;
+        return QFontDatabase::hasFamily(installed) ? installed : QString();
     }();
     return family;
 }

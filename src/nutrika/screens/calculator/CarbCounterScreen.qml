@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Nutrika
 
 // Qt 6.4's linter knows neither 64-bit integers, nor the types of components that reach ids outside
@@ -12,10 +11,10 @@ FocusScope {
     id: screen
 
     property CarbCounterUIView uiView: CarbCounterUIView {}
-    required property T.StackView navigation
+    required property NavigationStack navigation
     property var presentationMode: null
 
-    T.StackView.onActivated: uiView.appear()
+    NavigationStack.onActivated: uiView.appear()
 
     ViewContainer {
         anchors.fill: parent

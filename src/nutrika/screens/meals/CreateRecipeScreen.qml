@@ -1,6 +1,4 @@
 import QtQuick
-import QtQuick.Controls.Basic
-import QtQuick.Templates as T
 import QtQuick.Layouts
 import Nutrika
 
@@ -14,7 +12,7 @@ FocusScope {
     id: screen
 
     property CreateRecipeUIView uiView: CreateRecipeUIView {}
-    required property T.StackView navigation
+    required property NavigationStack navigation
     property var presentationMode: null
     // The calculator gives its meal line; the saved-meal list gives a saved meal, or asks for a new one,
     // with both modes and the quantity text.
@@ -39,8 +37,8 @@ FocusScope {
             uiView.openSavedMeal(savedMeal, mode, lastMode, quantityText)
     }
     // Coming back from the ingredient search brings the chosen foods in.
-    StackView.onActivating: uiView.appear()
-    StackView.onRemoved: uiView.leave()
+    NavigationStack.onActivating: uiView.appear()
+    NavigationStack.onRemoved: uiView.leave()
 
     Connections {
         target: screen.uiView
@@ -98,14 +96,8 @@ FocusScope {
                 Layout.preferredWidth: contentItem.implicitWidth + 20
                 text: screen.uiView.headerLinkText
                 onClicked: screen.uiView.toggleMode()
-                contentItem: Text {
-                    text: screen.uiView.headerLinkText
-                    font.pixelSize: Look.bodySize
-                    font.underline: true
-                    color: Look.headingText
-                    horizontalAlignment: Text.AlignHCenter
-                    verticalAlignment: Text.AlignVCenter
-                }
+                textColor: Look.headingText
+                underline: true
             }
             Item {
                 visible: screen.uiView.headerLinkText === ""

@@ -1,6 +1,4 @@
 import QtQuick
-import QtQuick.Controls.Basic
-import QtQuick.Templates as T
 import Nutrika
 
 // The food search over the meal editor, framed as "Search Ingredients": a food chosen here goes through
@@ -8,7 +6,7 @@ import Nutrika
 FocusScope {
     id: screen
 
-    required property T.StackView navigation
+    required property NavigationStack navigation
     property var presentationMode: null
 
     ViewContainer {

@@ -1,6 +1,4 @@
 import QtQuick
-import QtQuick.Controls.Basic
-import QtQuick.Templates as T
 import QtQuick.Layouts
 import Nutrika
 
@@ -9,7 +7,7 @@ FocusScope {
     id: screen
 
     property RecipeSearchUIView uiView: RecipeSearchUIView {}
-    required property T.StackView navigation
+    required property NavigationStack navigation
     // The container whose content this is; the list reloads each time that content appears.
     property SearchContainerUIView container: null
 

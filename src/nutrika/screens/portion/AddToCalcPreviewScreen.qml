@@ -1,6 +1,4 @@
 import QtQuick
-import QtQuick.Controls.Basic
-import QtQuick.Templates as T
 import QtQuick.Layouts
 import Nutrika
 
@@ -10,7 +8,7 @@ FocusScope {
     id: screen
 
     property AddToCalcPreviewUIView uiView: AddToCalcPreviewUIView {}
-    required property T.StackView navigation
+    required property NavigationStack navigation
     property var presentationMode: null
     // Add mode: the food and portion chosen on the portion screen.
     property var selectedFood
@@ -29,7 +27,7 @@ FocusScope {
     }
     // Asked for as the screen starts to show, and again after the portion screen: the values of the
     // portion now in force.
-    StackView.onActivating: uiView.appear()
+    NavigationStack.onActivating: uiView.appear()
 
     Connections {
         target: screen.uiView

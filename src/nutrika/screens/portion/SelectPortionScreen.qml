@@ -1,6 +1,4 @@
 import QtQuick
-import QtQuick.Controls.Basic
-import QtQuick.Templates as T
 import QtQuick.Layouts
 import Nutrika
 
@@ -14,7 +12,7 @@ FocusScope {
     id: screen
 
     property SelectPortionUIView uiView: SelectPortionUIView { id: portionState }
-    required property T.StackView navigation
+    required property NavigationStack navigation
     property var presentationMode: null
     property alias selectedFood: portionState.selectedFood
     // Given by an opener that takes the portion back (a function of one PortionItem), else null.
@@ -23,8 +21,8 @@ FocusScope {
 
     Component.onCompleted: uiView.hasCompleteCallback = onCompleteCallback !== null
     // The portions are asked for as the screen starts to show, not after its transition.
-    StackView.onActivating: uiView.appear()
-    StackView.onActivated: grid.forceActiveFocus()
+    NavigationStack.onActivating: uiView.appear()
+    NavigationStack.onActivated: grid.forceActiveFocus()
 
     Connections {
         target: screen.uiView

@@ -138,6 +138,8 @@ Rectangle {
                 delegate: Text {
                     id: option
                     required property string modelData
+                    // The wheel reads each option's place through its attached displacement.
+                    required property int index
                     objectName: "filterOption " + modelData
                     // A press the wheel's view would otherwise take for the start of a drag.
                     MouseArea {

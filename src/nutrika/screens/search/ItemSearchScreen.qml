@@ -10,7 +10,7 @@ FocusScope {
     id: screen
 
     property ItemSearchUIView uiView: ItemSearchUIView {}
-    required property T.StackView navigation
+    required property NavigationStack navigation
 
     ColumnLayout {
         anchors.fill: parent

@@ -1,6 +1,4 @@
 import QtQuick
-import QtQuick.Controls.Basic
-import QtQuick.Templates as T
 import QtQuick.Layouts
 import Nutrika
 
@@ -9,11 +7,11 @@ FocusScope {
     id: screen
 
     property SearchContainerUIView uiView: SearchContainerUIView {}
-    required property T.StackView navigation
+    required property NavigationStack navigation
     property var presentationMode: null
 
     // Coming back from a pushed screen shows the content again.
-    StackView.onActivated: uiView.contentAppeared()
+    NavigationStack.onActivated: uiView.contentAppeared()
 
     ViewContainer {
         anchors.fill: parent
