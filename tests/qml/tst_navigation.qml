@@ -88,6 +88,27 @@ ScreenTestCase {
         compare(stack.currentItem.presentationMode, link)
     }
 
+    // Each screen hears when it comes to the front and when it leaves; a pop to a screen removes every
+    // screen above it at once; a file that cannot be built is refused with a warning.
+    function test_theStackTellsEachScreenItsPlace() {
+        const stack = createTemporaryObject(stackComponent, testCase)
+        const url = Qt.resolvedUrl("PushedScreen.qml")
+        const first = stack.push(url, { title: "First" })
+        tryCompare(stack, "busy", false)
+        const second = stack.push(url, { title: "Second" })
+        tryCompare(stack, "busy", false)
+        compare([first.NavigationStack.index, second.NavigationStack.index, first.visible], [1, 2, false])
+        const heardByFirst = first.heard, heardBySecond = second.heard
+        stack.pop(stack.get(0))
+        compare([stack.depth, first.NavigationStack.index, second.NavigationStack.index], [1, -1, -1])
+        tryCompare(stack, "busy", false)
+        compare(heardByFirst, ["activating", "activated", "removed"])
+        compare(heardBySecond, ["activating", "activated", "removed"])
+        ignoreWarning(new RegExp("^NavigationStack: cannot show .*NoSuchScreen.qml"))
+        compare(stack.push(Qt.resolvedUrl("NoSuchScreen.qml")), null)
+        compare(stack.depth, 1)
+    }
+
     function test_aMissingDestinationWarnsAndPushesNothing() {
         const stack = createTemporaryObject(stackComponent, testCase)
         ignoreWarning("Destinations: no screen for 99")
