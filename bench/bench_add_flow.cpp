@@ -85,7 +85,7 @@ private:
     int m_frames = 0;
 };
 
-// StackView's push is a script function: the window forwards it.
+// The window pushes a screen the way a navigation link does, with the stack as its navigation.
 QObject *push(QQuickWindow *window, const char *screen, const QVariantMap &properties)
 {
     QVariant item;
