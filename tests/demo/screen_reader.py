@@ -23,6 +23,7 @@ AT_SPI_LAUNCHERS = ["/usr/libexec/at-spi-bus-launcher", "/usr/lib/at-spi2-core/a
 TOOLS = ["Xvfb", "openbox", "dbus-daemon", "xdotool"]
 PR_SET_PDEATHSIG = 1
 STEP_SECONDS = 30
+START = time.monotonic()
 
 
 class WalkFailed(Exception):
@@ -33,10 +34,41 @@ def log(*parts):
     print(f"[{time.monotonic() - START:6.2f}]", *parts, flush=True)
 
 
-START = time.monotonic()
+def die_with_parent():
+    ctypes.CDLL(None).prctl(PR_SET_PDEATHSIG, signal.SIGKILL)
 
 
-# The session ------------------------------------------------------------------------------------
+def stat(pid):
+    """The fields of /proc/PID/stat after the name (state, parent, ...), or None once it has gone."""
+    try:
+        with open(f"/proc/{pid}/stat") as file:
+            return file.read().rsplit(")", 1)[1].split()
+    except OSError:
+        return None
+
+
+def children_of(pid):
+    return [int(entry) for entry in os.listdir("/proc")
+            if entry.isdigit() and (fields := stat(entry)) and int(fields[1]) == pid]
+
+
+def running(pid):
+    fields = stat(pid)
+    return fields is not None and fields[0] != "Z"
+
+
+def quietly(question, default=None):
+    """The answer, or `default` when the object asked has gone meanwhile."""
+    try:
+        return question()
+    except Exception:
+        return default
+
+
+def describe(status):
+    if status is None:
+        return "running"
+    return f"signal {signal.Signals(-status).name}" if status < 0 else f"exit status {status}"
 
 
 class Session:
@@ -47,36 +79,34 @@ class Session:
         self.helpers = []
 
     def spawn(self, argv, **kwargs):
-        process = subprocess.Popen(argv, stdin=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-                                   preexec_fn=die_with_parent, **kwargs)
-        self.helpers.append(process)
-        return process
-
-    def __enter__(self):
-        missing = [tool for tool in TOOLS if shutil.which(tool) is None]
-        launcher = next((path for path in AT_SPI_LAUNCHERS if os.access(path, os.X_OK)), None)
-        if missing or launcher is None:
-            raise WalkFailed(f"missing {' '.join(missing + ([] if launcher else ['at-spi-bus-launcher']))}"
-                             " (scripts/setup installs them)")
-        os.environ["DISPLAY"] = ":" + self.first_line(["Xvfb", "-displayfd", "{fd}", "-screen", "0",
-                                                      "1024x900x24", "-nolisten", "tcp"])
-        # A bus of this run's own; dbus-launch would fork it away from this process.
-        os.environ["DBUS_SESSION_BUS_ADDRESS"] = self.first_line(
-            ["dbus-daemon", "--session", "--nofork", "--print-address={fd}"])
-        self.spawn(["openbox"], stdout=subprocess.DEVNULL)
-        self.spawn([launcher, "--launch-immediately"], stdout=subprocess.DEVNULL)
-        return self
+        self.helpers.append(subprocess.Popen(argv, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                                             stderr=subprocess.DEVNULL, preexec_fn=die_with_parent, **kwargs))
 
     def first_line(self, argv):
+        """Starts argv with "{fd}" replaced by a pipe, and reads the line it writes there."""
         read_end, write_end = os.pipe()
-        self.spawn([arg.replace("{fd}", str(write_end)) for arg in argv], stdout=subprocess.DEVNULL,
-                   pass_fds=(write_end,))
+        self.spawn([arg.replace("{fd}", str(write_end)) for arg in argv], pass_fds=(write_end,))
         os.close(write_end)
         with os.fdopen(read_end) as pipe:
             line = pipe.readline().strip()
         if not line:
             raise WalkFailed(f"{argv[0]} did not start")
         return line
+
+    def __enter__(self):
+        missing = [tool for tool in TOOLS if shutil.which(tool) is None]
+        launcher = next((path for path in AT_SPI_LAUNCHERS if os.access(path, os.X_OK)), None)
+        if missing or launcher is None:
+            missing += [] if launcher else ["at-spi-bus-launcher"]
+            raise WalkFailed(f"missing {' '.join(missing)} (scripts/setup installs them)")
+        os.environ["DISPLAY"] = ":" + self.first_line(["Xvfb", "-displayfd", "{fd}", "-screen", "0",
+                                                      "1024x900x24", "-nolisten", "tcp"])
+        # A bus of this run's own; dbus-launch would fork it away from this process.
+        os.environ["DBUS_SESSION_BUS_ADDRESS"] = self.first_line(
+            ["dbus-daemon", "--session", "--nofork", "--print-address={fd}"])
+        self.spawn(["openbox"])
+        self.spawn([launcher, "--launch-immediately"])
+        return self
 
     def __exit__(self, *exc):
         for process in reversed(self.helpers):
@@ -88,11 +118,11 @@ class Session:
         return False
 
 
-def die_with_parent():
-    ctypes.CDLL(None).prctl(PR_SET_PDEATHSIG, signal.SIGKILL)
-
-
-# The listener and the accessible tree -----------------------------------------------------------
+def matches(actual, wanted):
+    """A name that ends in "*" is a prefix; one that starts with "!" matches any other name."""
+    if wanted.startswith("!"):
+        return not matches(actual, wanted[1:])
+    return actual.startswith(wanted[:-1]) if wanted.endswith("*") else actual == wanted
 
 
 class Reader:
@@ -133,73 +163,31 @@ class Reader:
             time.sleep(0.02)
 
     def application(self, pid):
-        for app in self.pyatspi.Registry.getDesktop(0):
-            try:
-                if app is not None and app.get_process_id() == pid:
-                    return app
-            except Exception:
-                pass
-        return None
+        return next((app for app in self.pyatspi.Registry.getDesktop(0)
+                     if app is not None and quietly(app.get_process_id) == pid), None)
 
     def showing(self, node):
-        try:
-            return node.getState().contains(self.pyatspi.STATE_SHOWING)
-        except Exception:
-            return False
+        return quietly(lambda: node.getState().contains(self.pyatspi.STATE_SHOWING), False)
 
-    def find(self, root, role, state, name):
-        """The first showing object below root with that role, state (unless None) and name (a prefix
-        ending in "*")."""
+    def role(self, name):
+        """The AT-SPI role, and a state it must have: Qt gives a text field the role of a text."""
+        if name == "entry":
+            return self.pyatspi.ROLE_TEXT, self.pyatspi.STATE_EDITABLE
+        return getattr(self.pyatspi, "ROLE_" + name.upper().replace(" ", "_")), None
+
+    def find(self, root, role, name):
+        """The first showing object below root, breadth first, with that role (and its state) and name."""
+        role, state = self.role(role)
         pending = [root]
         while pending:
-            node = pending.pop(0)
-            try:
-                children = list(node)
-            except Exception:
-                continue
-            for child in children:
+            for child in quietly(lambda: list(pending.pop(0)), []):
                 if child is None or not self.showing(child):
                     continue
-                try:
-                    if child.getRole() == role and matches(child.name, name) and (
-                            state is None or child.getState().contains(state)):
-                        return child
-                except Exception:
-                    continue
+                if quietly(lambda: child.getRole() == role and matches(child.name, name) and (
+                        state is None or child.getState().contains(state))):
+                    return child
                 pending.append(child)
         return None
-
-
-def matches(actual, wanted):
-    if wanted.startswith("!"):
-        return not matches(actual, wanted[1:])
-    return actual.startswith(wanted[:-1]) if wanted.endswith("*") else actual == wanted
-
-
-# The demo ---------------------------------------------------------------------------------------
-
-
-def children_of(pid):
-    found = []
-    for entry in os.listdir("/proc"):
-        if not entry.isdigit():
-            continue
-        try:
-            with open(f"/proc/{entry}/stat") as stat:
-                fields = stat.read().rsplit(")", 1)[1].split()
-        except OSError:
-            continue
-        if int(fields[1]) == pid:
-            found.append(int(entry))
-    return found
-
-
-def running(pid):
-    try:
-        with open(f"/proc/{pid}/stat") as stat:
-            return stat.read().rsplit(")", 1)[1].split()[0] != "Z"
-    except OSError:
-        return False
 
 
 class Demo:
@@ -208,42 +196,32 @@ class Demo:
         self.process = subprocess.Popen([binary], env=env, stdout=subprocess.PIPE, text=True,
                                         preexec_fn=die_with_parent)
         self.reader = reader
-        line = self.process.stdout.readline()
-        log("demo:", line.strip())
+        log("demo:", self.process.stdout.readline().strip())
         self.services = children_of(self.process.pid)
         self.app = None
 
     def alive(self):
         return self.process.poll() is None
 
-    def wait_for(self, what, found, seconds=STEP_SECONDS):
-        deadline = time.monotonic() + seconds
+    def wait_for(self, what, found):
+        deadline = time.monotonic() + STEP_SECONDS
         while time.monotonic() < deadline:
             if not self.alive():
                 raise WalkFailed(f"the demo ended ({describe(self.process.returncode)}) waiting for {what}")
             if self.app is None:
                 self.app = self.reader.application(self.process.pid)
-            result = found() if self.app is not None else None
+            result = self.app is not None and found()
             if result:
                 return result
             self.reader.pump(0.1)
-        raise WalkFailed(f"no {what} within {seconds} s")
+        raise WalkFailed(f"no {what} within {STEP_SECONDS} s")
 
     def control(self, role, name, within=None):
         """A showing control, inside the showing container `within` (role, name) when given."""
         def found():
-            root = self.app
-            if within:
-                root = self.reader.find(root, *self.role(within[0]), within[1])
-            return root and self.reader.find(root, *self.role(role), name)
+            root = self.reader.find(self.app, *within) if within else self.app
+            return root and self.reader.find(root, role, name)
         return self.wait_for(f"{role} {name!r}", found)
-
-    def role(self, name):
-        """The AT-SPI role, and a state it must have: Qt gives a text field the role of a text."""
-        pyatspi = self.reader.pyatspi
-        if name == "entry":
-            return pyatspi.ROLE_TEXT, pyatspi.STATE_EDITABLE
-        return getattr(pyatspi, "ROLE_" + name.upper().replace(" ", "_")), None
 
     def press(self, role, name, within=None, leaves=False):
         """Presses the control; with `leaves`, waits until the screen that held it has gone."""
@@ -256,7 +234,7 @@ class Demo:
             self.wait_for(f"{name!r} to go", lambda: not self.reader.showing(node))
         self.reader.pump(0.3)
 
-    def type_into(self, name, text):
+    def type(self, name, text):
         node = self.control("entry", name)
         node.queryComponent().grabFocus()
         self.reader.pump(0.2)
@@ -267,17 +245,9 @@ class Demo:
         log("typed", repr(text), "into", repr(name))
 
 
-def describe(status):
-    if status is None:
-        return "running"
-    return f"signal {signal.Signals(-status).name}" if status < 0 else f"exit status {status}"
-
-
-# The walk ---------------------------------------------------------------------------------------
-
-# A step presses a control ("press", role, name[, within]) or types ("type", field, text). A name that
-# ends in "*" is a prefix; one that starts with "!" matches any other name. Every way starts on the
-# search screen: the module opens on it, and an empty calculator shows it again.
+# A step presses a control ("press", role, name[, within]) or types ("type", field, text); see matches()
+# for the names. Every way starts on the search screen: the module opens on it, and an empty calculator
+# shows it again.
 MEALS = [("press", "page tab", "Meals")]
 MEAL_EDITOR = MEALS + [("press", "push button", "Create Meal")]
 PORTIONS = [("type", "Search", "apple"), ("press", "push button", "*", ("list", "Search results"))]
@@ -300,14 +270,6 @@ ROUTES = [
 ]
 
 
-def run(demo, step):
-    kind, *rest = step
-    if kind == "type":
-        demo.type_into(*rest)
-    else:
-        demo.press(*rest)
-
-
 def walk(demo):
     at = HOST
     for screen, way, shown, exits in ROUTES:
@@ -315,8 +277,8 @@ def walk(demo):
             log(f"--- {screen}: {exit}")
             if at == HOST:
                 demo.press(*HOST)
-            for step in way:
-                run(demo, step)
+            for kind, *step in way:
+                getattr(demo, kind)(*step)
             demo.control(*shown)
             for button in [exit] + then:
                 demo.press("push button", button, leaves=True)
@@ -328,13 +290,12 @@ def walk(demo):
 def main():
     # A timeout's SIGTERM still takes the session down.
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
-    binary = sys.argv[1]
     explore = "--explore" in sys.argv
     demo = None
     try:
         with Session():
             reader = Reader(verbose=explore or "--verbose" in sys.argv)
-            demo = Demo(binary, reader)
+            demo = Demo(sys.argv[1], reader)
             if len(demo.services) != 1:
                 raise WalkFailed(f"the demo runs {len(demo.services)} services, not one")
             if explore:
@@ -357,7 +318,7 @@ def main():
                 demo.process.kill()
                 demo.process.wait()
             deadline = time.monotonic() + 10
-            while any(running(pid) for pid in demo.services) and time.monotonic() < deadline:
+            while any(map(running, demo.services)) and time.monotonic() < deadline:
                 time.sleep(0.1)
             left = [pid for pid in demo.services if running(pid)]
             for pid in left:

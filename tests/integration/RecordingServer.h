@@ -14,16 +14,13 @@ public:
     {
         int status = 200;
         QByteArray body = "{}";
-        /// Announced body length when larger than the body: the connection closes early.
-        qint64 announcedLength = -1;
+        qint64 announcedLength = -1; // when larger than the body, the connection closes early
     };
 
     struct Request
     {
-        /// For example "GET /path?query HTTP/1.1".
-        QByteArray requestLine;
-        /// Header lines exactly as received, without the line break.
-        QList<QByteArray> headerLines;
+        QByteArray requestLine;        // "GET /path?query HTTP/1.1"
+        QList<QByteArray> headerLines; // as received, without the line break
     };
 
     /// Serves with a certificate from the test TLS directory: "server.pem" chains to "ca.pem",

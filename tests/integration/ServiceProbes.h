@@ -31,36 +31,19 @@ inline QString describe(const ServiceResult<FoodSearchPage> &result)
         .arg(page.generic.size())
         .arg(page.branded.size());
 }
-inline QString describe(const std::optional<QImage> &image)
-{
-    return image ? u"image %1x%2"_s.arg(image->width()).arg(image->height()) : u"none"_s;
-}
 template <typename T> QString describe(const std::optional<T> &records)
 {
     return records ? u"records"_s : u"none"_s;
 }
 
-/// Calls `request(client, arguments..., context, done)` and spins the event loop until `done` runs, at most
-/// a minute; what `done` was given, or nothing.
-template <typename Result, auto request, typename... Arguments>
-std::optional<Result> await(ServiceClient &client, const Arguments &...arguments)
-{
-    QObject context;
-    std::optional<Result> result;
-    request(client, arguments..., &context, [&result](const auto &value) {
-        if constexpr (std::is_same_v<Result, QString>)
-            result = describe(value); // a probe's outcome
-        else
-            result = value;
-    });
-    return QTest::qWaitFor([&result] { return result.has_value(); }, 60000) ? result : std::nullopt;
-}
-
-/// A probe that sends through `request` with these arguments.
+/// A probe that sends through `request` with these arguments and waits a minute at most.
 template <auto request, typename... Arguments> Probe make(Arguments... arguments)
 {
     return [=](ServiceClient &client) {
-        return await<QString, request>(client, arguments...).value_or(QString());
+        QObject context; // gone on return, so a late completion is dropped
+        QString outcome;
+        request(client, arguments..., &context, [&outcome](const auto &value) { outcome = describe(value); });
+        return QTest::qWaitFor([&outcome] { return !outcome.isEmpty(); }, 60000) ? outcome : QString();
     };
 }
 

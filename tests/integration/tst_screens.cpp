@@ -237,14 +237,10 @@ private slots:
             << u"2+0 portions, tab 0, box 0 selects 5, custom 123"_s;
         QTest::newRow("portions 500: tab kept")
             << u"portions"_s << 500 << html << u"0+0 portions, tab 0, custom 123"_s;
-        QTest::newRow("portions not JSON: tab kept")
-            << u"portions"_s << 200 << html << u"0+0 portions, tab 0, custom 123"_s;
         QTest::newRow("thumbnail") << u"thumbnail"_s << 200 << png << u"shown"_s;
         QTest::newRow("thumbnail 404") << u"thumbnail"_s << 404 << html << u"none"_s;
         QTest::newRow("thumbnail bytes that are no image")
             << u"thumbnail"_s << 200 << QByteArray("\x89PNG\r\n\x1a\nbroken", 14) << u"none"_s;
-        QTest::newRow("picture") << u"picture"_s << 200 << png << u"shown"_s;
-        QTest::newRow("picture empty") << u"picture"_s << 200 << QByteArray() << u"none"_s;
         // The line counts nothing until an answer with carbohydrates comes; Add stays possible.
         QTest::newRow("nutrients without Carbohydrates")
             << u"preview"_s << 200 << noCarbohydrates << u"1 nutrients, carbohydrates \"\", added 1 line"_s;
@@ -281,10 +277,9 @@ private slots:
             view.setCustomText(u"12a3"_s); // pasted: the digits count
             view.selectPortion();
             shown += u", custom %1"_s.arg(view.chosenPortion().size);
-        } else if (screen == u"thumbnail" || screen == u"picture") {
+        } else if (screen == u"thumbnail") {
             PortionPicture picture;
             picture.setPortionId(904005);
-            picture.setFullSize(screen == u"picture");
             picture.load();
             QTRY_COMPARE(server->requests().size(), 1);
             QTest::qWait(100);

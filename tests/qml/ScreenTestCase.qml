@@ -3,11 +3,11 @@ import QtTest
 import Nutrika
 import NutrikaTest
 
-// The frame of every test here: shown in a window, with a fresh session, and a picture of what it shows
-// when NUTRIKA_SCREENSHOT_DIR is set.
+// The frame of every QML test, here and in search-ui: shown in a window, with a fresh session, a picture
+// of what it shows when NUTRIKA_SCREENSHOT_DIR is set, and the steps a person takes.
 TestCase {
-    width: 400
-    height: 720
+    width: 420
+    height: 820
     when: windowShown
     visible: true
 
@@ -21,6 +21,61 @@ TestCase {
             grabImage(item).save(SessionProbe.screenshotDir + "/" + name + ".png")
     }
 
-    // Waits until `stack` shows `depth` screens and no transition runs.
-    function settle(stack, depth) { tryVerify(() => stack.depth === depth && !stack.busy) }
+    // Waits until `stack` shows `depth` screens and no transition runs; the screen in front.
+    function settle(stack, depth) {
+        tryVerify(() => stack.depth === depth && !stack.busy, 5000, "depth " + stack.depth + ", not " + depth)
+        return stack.currentItem
+    }
+
+    // Key by key over what the field holds.
+    function type(field, text) {
+        field.forceActiveFocus()
+        field.selectAll()
+        for (const c of text)
+            keyClick(c)
+    }
+
+    // round1 and the amount text, written independently of the module.
+    function round1(x) { return Math.round(x * 10) / 10 }
+    function grams(x) { return round1(x) + " g" }
+
+    // The amount of each calculator line, once the list has built them.
+    function lineAmounts(root) {
+        const list = findChild(root, "lineList")
+        tryVerify(() => list.count === 0 || list.itemAtIndex(list.count - 1) !== null)
+        return Array.from({ length: list.count }, (_, i) => findChild(list.itemAtIndex(i), "lineAmount").text)
+    }
+
+    // Taps the result titled `title`, after typing `query` when given. The service's description may go
+    // on in parentheses ("... water (includes boiling ...").
+    function tapFood(screen, title, query) {
+        if (query)
+            type(findChild(screen, "searchField"), query)
+        const list = findChild(screen, "results")
+        let row = null
+        tryVerify(() => {
+            for (let i = 0; i < list.count && !row; ++i) {
+                const item = list.itemAtIndex(i)
+                if (item && (item.title === title || item.title.startsWith(title + " (")))
+                    row = item
+            }
+            return row !== null
+        }, 8000, "no row " + title + " among " + list.count)
+        mouseClick(row)
+    }
+
+    // The grid box of a portion, or of the custom amount (id -1), on the portion screen.
+    function portionBox(screen, portionId) {
+        const grid = findChild(screen, "portionGrid")
+        let box = null
+        tryVerify(() => {
+            for (let i = 0; i < grid.count && !box; ++i) {
+                const cell = grid.itemAtIndex(i)
+                if (cell && cell.item && (i === 0 ? -1 : screen.uiView.portionOptions[i - 1].id) === portionId)
+                    box = cell.item
+            }
+            return box !== null
+        }, 5000)
+        return box
+    }
 }

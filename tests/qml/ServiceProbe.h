@@ -22,7 +22,6 @@ class ServiceProbe : public QObject
     QML_ELEMENT
     QML_SINGLETON
     Q_PROPERTY(bool ready READ ready CONSTANT)
-    Q_PROPERTY(QString screenshotDir READ screenshotDir CONSTANT)
 
 public:
     ServiceProbe() : m_service(std::make_unique<FoodServiceProcess>(QStringLiteral(NUTRIKA_FOOD_DB)))
@@ -34,22 +33,9 @@ public:
     }
 
     [[nodiscard]] bool ready() const { return m_service && m_service->isReady(); }
-    [[nodiscard]] QString screenshotDir() const { return qEnvironmentVariable("NUTRIKA_SCREENSHOT_DIR"); }
 
     /// Stops the service for good: later requests find nobody listening.
     Q_INVOKABLE void stop() { m_service.reset(); }
-
-    /// An empty calculator with every flag down, as in a fresh process.
-    Q_INVOKABLE void resetSession()
-    {
-        nutrika::EnvironmentVariables *env = nutrika::EnvironmentVariables::shared();
-        env->setTrackedNutrientListItems({});
-        env->setSearchActive(false);
-        env->setPortionActive(-1);
-        env->setAccompanimentsActive(false);
-        env->setFoodItemForAccompaniments(std::nullopt);
-        env->setEditRecipeActive(false);
-    }
 
     /// The carbohydrates the service gives for `size` `unit` of a food.
     Q_INVOKABLE double carbohydrates(qint64 foodId, qint64 size, const QString &unit)
@@ -58,20 +44,6 @@ public:
                  QStringLiteral("/api/v1/healthcare//food/%1/get_nutrients").arg(foodId));
         url.setQuery(QUrlQuery{{QStringLiteral("amount_value"), QString::number(size)},
                                {QStringLiteral("amount_unit"), unit}});
-        const QJsonObject reply = get(url).object();
-        double carbs = -1;
-        for (const QString &group : {QStringLiteral("macronutrients"), QStringLiteral("micronutrients")}) {
-            for (const QJsonValue &n : reply.value(group).toArray()) {
-                if (n[QStringLiteral("nutrient")][QStringLiteral("name")] == QStringLiteral("Carbohydrates"))
-                    carbs = n[QStringLiteral("amount")][QStringLiteral("value")].toDouble();
-            }
-        }
-        return carbs;
-    }
-
-private:
-    QJsonDocument get(const QUrl &url)
-    {
         QNetworkRequest request(url);
         request.setRawHeader("Authorization", "Api-Key " + m_service->apiKey().toUtf8());
         request.setSslConfiguration(m_service->sslConfiguration());
@@ -80,9 +52,17 @@ private:
         connect(reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
         loop.exec();
         reply->deleteLater();
-        return QJsonDocument::fromJson(reply->readAll());
+        const QJsonObject nutrients = QJsonDocument::fromJson(reply->readAll()).object();
+        for (const QString &group : {QStringLiteral("macronutrients"), QStringLiteral("micronutrients")}) {
+            for (const QJsonValue &n : nutrients.value(group).toArray()) {
+                if (n[QStringLiteral("nutrient")][QStringLiteral("name")] == QStringLiteral("Carbohydrates"))
+                    return n[QStringLiteral("amount")][QStringLiteral("value")].toDouble();
+            }
+        }
+        return -1;
     }
 
+private:
     std::unique_ptr<FoodServiceProcess> m_service;
     QNetworkAccessManager m_network;
 };

@@ -8,33 +8,30 @@
 #include <QObject>
 #include <QtQmlIntegration>
 
-/// Lets the QML tests reset the session, count "Close" actions, read and clear the saved meals and find
-/// the screenshot folder.
+/// Lets the QML tests reset the session, read the saved meals and find the screenshot folder.
 class SessionProbe : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
-    Q_PROPERTY(int dismissCount READ dismissCount NOTIFY dismissCountChanged)
     Q_PROPERTY(QString screenshotDir READ screenshotDir CONSTANT)
 
 public:
-    [[nodiscard]] int dismissCount() const { return m_dismissCount; }
     [[nodiscard]] QString screenshotDir() const { return qEnvironmentVariable("NUTRIKA_SCREENSHOT_DIR"); }
 
-    /// Empties the calculator, clears the flags and makes "Close" count instead of act.
+    /// As in a fresh process: an empty calculator, every flag down, no saved meals.
     Q_INVOKABLE void reset()
     {
         nutrika::EnvironmentVariables *env = nutrika::EnvironmentVariables::shared();
         env->setTrackedNutrientListItems({});
         env->setSearchActive(false);
+        env->setPortionActive(-1);
         env->setAccompanimentsActive(false);
-        m_dismissCount = 0;
-        emit dismissCountChanged();
-        env->setDismissFunction([this] {
-            ++m_dismissCount;
-            emit dismissCountChanged();
-        });
+        env->setFoodItemForAccompaniments(std::nullopt);
+        env->setEditRecipeActive(false);
+        nutrika::Preferences preferences;
+        preferences.remove(QStringLiteral("recipes"));
+        preferences.sync();
     }
 
     Q_INVOKABLE void addExampleLines()
@@ -51,17 +48,4 @@ public:
             meals.append(QVariant::fromValue(meal));
         return meals;
     }
-
-    Q_INVOKABLE void forgetSavedMeals()
-    {
-        nutrika::Preferences preferences;
-        preferences.remove(QStringLiteral("recipes"));
-        preferences.sync();
-    }
-
-signals:
-    void dismissCountChanged();
-
-private:
-    int m_dismissCount = 0;
 };

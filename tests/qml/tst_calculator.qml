@@ -11,34 +11,24 @@ ScreenTestCase {
         NutrikaRoot { anchors.fill: parent; calculator: CarbCounterUIView { preview: Preview.Main } }
     }
 
-    // The lines are shown once the list has built a delegate for each.
-    function linesOf(root, count) {
-        const list = findChild(root, "lineList")
-        tryCompare(list, "count", count)
-        tryVerify(() => count === 0 || list.itemAtIndex(count - 1) !== null)
-        waitForRendering(list)
-        return list
-    }
-
-    function amounts(list) {
-        return Array.from({ length: list.count }, (_, i) => findChild(list.itemAtIndex(i), "lineAmount").text)
-    }
-
     // Every amount rounds to one decimal, halves away from zero: the half burger's 19.35 g shows as 19.4 g.
     function test_previewShowsTheSampleLinesAndRemoveTakesTheTappedLine() {
         const root = createTemporaryObject(previewComponent, testCase)
-        const list = linesOf(root, 4)
-        compare(amounts(list), ["25.8 g", "12.9 g", "77.4 g", "19.4 g"])
+        tryCompare(findChild(root, "lineList"), "count", 4)
+        compare(lineAmounts(root), ["25.8 g", "12.9 g", "77.4 g", "19.4 g"])
+        const list = findChild(root, "lineList")
         compare(findChild(list.itemAtIndex(2), "lineTitle").text, "Cheeseburger")
         compare([0, 2].map(i => findChild(list.itemAtIndex(i), "lineTitle").font.bold), [true, false])
         compare(findChild(root, "totalAmount").text, "135.5 g")
+        waitForRendering(list)
         shoot(root, "calculator-preview")
         mouseClick(findChild(list.itemAtIndex(0), "removeButton"))
         tryCompare(list, "count", 3)
-        compare(amounts(list), ["12.9 g", "77.4 g", "19.4 g"])
+        compare(lineAmounts(root), ["12.9 g", "77.4 g", "19.4 g"])
         tryCompare(findChild(root, "totalAmount"), "text", "109.7 g")
     }
 
+    // Shown empty, the calculator asks for the search, and again each time it comes back to the front.
     function test_anEmptyCalculatorAsksForTheSearch() {
         const root = createTemporaryObject(rootComponent, testCase)
         const calculator = root.navigation.get(0)
@@ -47,7 +37,6 @@ ScreenTestCase {
         compare(findChild(calculator, "backRow").visible, false) // neither back nor "Close" here
         settle(root.navigation, 2)
         shoot(root, "calculator-empty-opens-search")
-        // Back on an empty calculator: shown again, it asks for the search again.
         EnvironmentVariables.searchActive = false
         tryCompare(root.navigation, "depth", 1)
         tryCompare(EnvironmentVariables, "searchActive", true)
@@ -59,24 +48,24 @@ ScreenTestCase {
     function test_linesFollowTheirEntryAndTheKeyboardActs() {
         SessionProbe.addExampleLines()
         const root = createTemporaryObject(rootComponent, testCase)
-        const list = linesOf(root, 2)
+        compare(lineAmounts(root), ["25.8 g", "19.4 g"])
         const entry = root.calculator.line(0)
         const quantity = entry.quantity
         try {
             entry.quantity = 3
-            tryCompare(findChild(list.itemAtIndex(0), "lineAmount"), "text", "38.7 g")
             // The sample meal holds this very entry, so the meal's line moves too.
-            tryCompare(findChild(list.itemAtIndex(1), "lineAmount"), "text", "25.8 g")
-            compare(findChild(root, "totalAmount").text, "64.5 g")
+            tryCompare(findChild(root, "totalAmount"), "text", "64.5 g")
+            compare(lineAmounts(root), ["38.7 g", "25.8 g"])
         } finally {
             entry.quantity = quantity // the samples are shared by every test
         }
         compare(EnvironmentVariables.searchActive, false)
+        const list = findChild(root, "lineList")
         findChild(list.itemAtIndex(0), "removeButton").forceActiveFocus()
         shoot(root, "calculator-keyboard-focus")
         keyClick(Qt.Key_Return)
         tryCompare(list, "count", 1)
-        compare(amounts(list), ["19.4 g"])
+        compare(lineAmounts(root), ["19.4 g"])
         findChild(root, "searchMoreButton").forceActiveFocus()
         keyClick(Qt.Key_Enter)
         compare(EnvironmentVariables.searchActive, true)

@@ -51,19 +51,6 @@ ScreenTestCase {
         tryCompare(stack, "depth", 2)
     }
 
-    // "Close" runs the session's dismiss function and leaves the stack to the host; back clears the flag.
-    function test_theFrameButtons() {
-        const { stack, link } = pushed()
-        link.dismissed.connect(() => link.active = false)
-        shoot(stack, "frame-with-back-row")
-        mouseClick(findChild(stack.currentItem, "closeButton"))
-        compare(SessionProbe.dismissCount, 1)
-        compare(stack.depth, 2)
-        mouseClick(findChild(stack.currentItem, "backButton"))
-        compare(link.active, false)
-        tryCompare(stack, "depth", 1)
-    }
-
     function test_escapeGoesBackOneScreen() {
         SessionProbe.addExampleLines()
         const root = createTemporaryObject(rootComponent, testCase)
@@ -78,18 +65,9 @@ ScreenTestCase {
         compare(stack.depth, 1)
     }
 
-    // As on a second opening of the module: the flag is still set from the first.
-    function test_aLinkCreatedWithItsFlagSetPushesOnceTheStackHoldsItsFirstScreen() {
-        const stack = createTemporaryObject(stackComponent, testCase, { initialItem: null })
-        const link = makeLink(stack, { active: true })
-        compare(stack.depth, 0)
-        stack.push(Qt.resolvedUrl("PushedScreen.qml"), { title: "First" })
-        tryCompare(stack, "depth", 2)
-        compare(stack.currentItem.presentationMode, link)
-    }
-
     // Each screen hears when it comes to the front and when it leaves; a pop to a screen removes every
-    // screen above it at once; a file that cannot be built is refused with a warning.
+    // screen above it at once; a file that cannot be built, or a destination without a screen, is refused
+    // with a warning.
     function test_theStackTellsEachScreenItsPlace() {
         const stack = createTemporaryObject(stackComponent, testCase)
         const url = Qt.resolvedUrl("PushedScreen.qml")
@@ -106,11 +84,6 @@ ScreenTestCase {
         compare(heardBySecond, ["activating", "activated", "removed"])
         ignoreWarning(new RegExp("^NavigationStack: cannot show .*NoSuchScreen.qml"))
         compare(stack.push(Qt.resolvedUrl("NoSuchScreen.qml")), null)
-        compare(stack.depth, 1)
-    }
-
-    function test_aMissingDestinationWarnsAndPushesNothing() {
-        const stack = createTemporaryObject(stackComponent, testCase)
         ignoreWarning("Destinations: no screen for 99")
         makeLink(stack, { destinationUrl: Destinations.screen(99), active: true })
         wait(50)

@@ -8,7 +8,6 @@
 
 #include <cmath>
 #include <QElapsedTimer>
-#include <QFontInfo>
 #include <QRawFont>
 #include <QSignalSpy>
 #include <QTest>
@@ -62,8 +61,7 @@ private slots:
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("background");
         QTest::addColumn<qreal>("opacity");
-        // Each pair once; the row names where it is read.
-        QTest::newRow("filter button") << u"#595959"_s << u"white"_s << 1.0;
+        // Each pair of catalogue colours once; the row names where it is read.
         QTest::newRow("placeholder, unselected picker options, empty filter")
             << u"lightGray"_s << u"white"_s << 1.0;
         QTest::newRow("result rows while replaced") << u"black"_s << u"white"_s << Look::staleRowOpacity;
@@ -74,7 +72,6 @@ private slots:
         QTest::newRow("edit link") << u"HeadingText"_s << u"white"_s << 1.0;
         QTest::newRow("edit link, widgets") << u"headingText"_s << u"white"_s << 1.0;
         QTest::newRow("label cells") << u"black"_s << u"lightGray"_s << 1.0;
-        QTest::newRow("remove cross") << u"#c40000"_s << u"white"_s << 1.0;
     }
 
     void everyTextMeetsContrastAA()
@@ -117,18 +114,6 @@ private slots:
         QVERIFY(symbolGlyph(u"no.such.symbol"_s).isEmpty());
     }
 
-    void customFontsFallBackToInstalledFonts()
-    {
-        const Look look;
-        for (const QFont &font : {look.azoSans(), look.arial()}) {
-            QCOMPARE(font.pixelSize(), 15);
-            const QString family = QFontInfo(font).family();
-            QVERIFY2(family == u"Liberation Sans"_s || family == u"DejaVu Sans"_s ||
-                         family.contains(u"Azo"_s) || family.compare(u"arial"_s, Qt::CaseInsensitive) == 0,
-                     qPrintable(family));
-        }
-    }
-
     void edgeBorderPath_data()
     {
         QTest::addColumn<QRectF>("rect");
@@ -143,7 +128,6 @@ private slots:
             << QRectF(10, 20, 50, 30) << 2.0 << Edges{EdgeBorder::Top} << QList<QRectF>{{10, 20, 50, 2}};
         QTest::newRow("repeated edge") << r << 2.0 << Edges{EdgeBorder::Bottom, EdgeBorder::Bottom}
                                        << QList<QRectF>{{0, 38, 100, 2}, {0, 38, 100, 2}};
-        QTest::newRow("no edges") << r << 1.0 << Edges{} << QList<QRectF>{};
     }
 
     void edgeBorderPath()
@@ -154,18 +138,16 @@ private slots:
         QFETCH(QList<QRectF>, expected);
         QCOMPARE(EdgeBorder::path(rect, width, edges), expected);
     }
+
+    // Letters, a point and a start below the minimum are the QML test's; these are the rest.
     void normalisation_data()
     {
         QTest::addColumn<QString>("typed");
         QTest::addColumn<qint64>("min");
         QTest::addColumn<qint64>("max");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("already normal") << u"12"_s << 1LL << 99999LL << u"12"_s;
-        QTest::newRow("zero below min") << u"0"_s << 1LL << 99999LL << u"1"_s;
         QTest::newRow("sign dropped") << u"-5"_s << 1LL << 99999LL << u"5"_s;
-        QTest::newRow("point dropped") << u"1.5"_s << 1LL << 99999LL << u"15"_s;
         QTest::newRow("leading zeros") << u"007"_s << 1LL << 99999LL << u"7"_s;
-        QTest::newRow("letter dropped") << u"12a"_s << 1LL << 99999LL << u"12"_s;
         QTest::newRow("empty is min") << u""_s << 1LL << 99999LL << u"1"_s;
         QTest::newRow("no digits is min") << u"abc"_s << 3LL << 99999LL << u"3"_s;
         QTest::newRow("above max") << u"123456"_s << 1LL << 99999LL << u"99999"_s;
@@ -194,11 +176,8 @@ private slots:
         stepper.setMax(99999);
         QSignalSpy updates(&stepper, &NumberStepper::updated);
         stepper.setValue(u"0"_s);
-        QCOMPARE(stepper.value(), u"0"_s);
         QCOMPARE(updates.size(), 0);
         stepper.componentComplete();
-        QCOMPARE(stepper.value(), u"1"_s);
-        QCOMPARE(updates.size(), 1);
         stepper.normalize();
         QCOMPARE(updates.size(), 2);
         QCOMPARE(updates.last().first().toLongLong(), 1);
@@ -207,52 +186,8 @@ private slots:
         QCOMPARE(stepper.max(), 99999);
     }
 
-    void stepsStopAtTheBounds_data()
-    {
-        QTest::addColumn<QString>("start");
-        QTest::addColumn<int>("direction");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("plus") << u"5"_s << int(NumberStepper::Up) << u"6"_s;
-        QTest::newRow("minus") << u"5"_s << int(NumberStepper::Down) << u"4"_s;
-        QTest::newRow("plus at max") << u"99999"_s << int(NumberStepper::Up) << u"99999"_s;
-        QTest::newRow("minus at min") << u"1"_s << int(NumberStepper::Down) << u"1"_s;
-    }
-
-    void stepsStopAtTheBounds()
-    {
-        QFETCH(QString, start);
-        QFETCH(int, direction);
-        QFETCH(QString, expected);
-        NumberStepper stepper(1, 99999);
-        stepper.setValue(start);
-        QSignalSpy updates(&stepper, &NumberStepper::updated);
-        stepper.tap(direction);
-        QCOMPARE(stepper.value(), expected);
-        QCOMPARE(updates.size(), start == expected ? 0 : 1);
-    }
-
-    void holdingRepeatsFromAFifthOfASecondUntilTheTap()
-    {
-        NumberStepper stepper(1, 99999);
-        stepper.setValue(u"10"_s);
-        QElapsedTimer clock;
-        clock.start();
-        stepper.press(NumberStepper::Down);
-        QTest::qWait(120);
-        if (clock.elapsed() < 190) // a slow machine may already be past the threshold
-            QCOMPARE(stepper.value(), u"10"_s);
-        QTRY_COMPARE_WITH_TIMEOUT(stepper.value(), u"1"_s, 5000);
-        QVERIFY(clock.elapsed() >= 200 + 8 * 50);
-        QVERIFY(stepper.isLongPressing());
-        QTest::qWait(100); // at the bound the steps change nothing
-        QCOMPARE(stepper.value(), u"1"_s);
-        stepper.release(NumberStepper::Down);
-        QVERIFY(!stepper.isLongPressing());
-        QVERIFY(!stepper.isRepeating());
-        QCOMPARE(stepper.value(), u"1"_s); // the release that stops the repeat does not step
-    }
-
-    void aTapOnEitherButtonStopsTheRepeatWithoutStepping()
+    // Repeating down to the bound is the QML test's; here the timing, and what stops it.
+    void holdingRepeatsFromAFifthOfASecondUntilATap()
     {
         NumberStepper stepper(1, 99999);
         stepper.setValue(u"50"_s);
@@ -261,80 +196,52 @@ private slots:
         QTest::qWait(300);
         QCOMPARE(stepper.value(), u"50"_s);
 
-        stepper.press(NumberStepper::Up);
-        QTRY_VERIFY(stepper.isLongPressing());
-        stepper.cancelPress(); // sliding away once repeating keeps it going
+        QElapsedTimer clock;
+        clock.start();
+        stepper.press(NumberStepper::Down);
+        QTest::qWait(120);
+        if (clock.elapsed() < 190) // a slow machine may already be past the threshold
+            QCOMPARE(stepper.value(), u"50"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(stepper.value().toLongLong() <= 41, 5000);
+        QVERIFY(clock.elapsed() >= 200 + 8 * 50); // the first step at 0.2 s, then one each 50 ms
+        stepper.cancelPress();                    // sliding away once repeating keeps it going
         const qint64 before = stepper.value().toLongLong();
-        QTRY_VERIFY(stepper.value().toLongLong() > before + 2);
-        stepper.tap(NumberStepper::Down);
+        QTRY_VERIFY(stepper.value().toLongLong() < before - 2);
+        stepper.tap(NumberStepper::Up); // the other button stops it without stepping
         const QString stopped = stepper.value();
         QVERIFY(!stepper.isRepeating());
         QTest::qWait(150);
         QCOMPARE(stepper.value(), stopped);
-        stepper.tap(NumberStepper::Down); // idle again: a tap steps
-        QCOMPARE(stepper.value().toLongLong(), stopped.toLongLong() - 1);
-    }
-    void burstsOfTypingGiveOneDeliveryOfTheWholeWord()
-    {
-        TextFieldObserver observer;
-        QStringList texts;
-        connect(&observer, &TextFieldObserver::debouncedTextChanged, this,
-                [&] { texts.append(observer.debouncedText()); });
-        QElapsedTimer sinceLastKey;
-        for (const QString &prefix : {u"a"_s, u"ap"_s, u"app"_s, u"appl"_s, u"apple"_s}) {
-            observer.setSearchText(prefix);
-            sinceLastKey.start();
-            QTest::qWait(300);
-        }
-        QVERIFY(texts.isEmpty()); // not even the initial "": it was replaced within the second
-        QTRY_COMPARE_WITH_TIMEOUT(texts.size(), 1, 5000);
-        QVERIFY(sinceLastKey.elapsed() >= 990);
-        QCOMPARE(texts, QStringList{u"apple"_s});
+        stepper.tap(NumberStepper::Up); // idle again: a tap steps
+        QCOMPARE(stepper.value().toLongLong(), stopped.toLongLong() + 1);
     }
 
-    void settlingDeliversAtOnceAndOnlyOnce()
+    // Bursts of typing are the QML test's. The initial empty text comes after a second; Enter delivers at
+    // once and cancels the pause; the same text again is delivered again; an abandoned observer is silent.
+    void deliveriesAfterThePauseAndAtEnter()
     {
-        TextFieldObserver observer;
-        QStringList texts;
-        connect(&observer, &TextFieldObserver::debouncedTextChanged, this,
-                [&] { texts.append(observer.debouncedText()); });
-        observer.setSearchText(u"apple"_s);
-        observer.settle();
-        QCOMPARE(texts, QStringList{u"apple"_s});
-        QTest::qWait(1200);
-        QCOMPARE(texts, QStringList{u"apple"_s}); // the pending pause was cancelled
+        auto *abandoned = new TextFieldObserver;
+        bool abandonedDelivered = false;
+        connect(abandoned, &TextFieldObserver::debouncedTextChanged, this,
+                [&] { abandonedDelivered = true; });
+        abandoned->setSearchText(u"pending"_s);
+        delete abandoned;
 
-        QElapsedTimer sinceLastKey;
-        sinceLastKey.start();
-        observer.setSearchText(u"apples"_s); // typing after Enter waits again
-        QTRY_COMPARE_WITH_TIMEOUT(texts.size(), 2, 5000);
-        QVERIFY(sinceLastKey.elapsed() >= 990);
-        QCOMPARE(texts.last(), u"apples"_s);
-    }
-
-    // The initial empty text comes after a second, and the same text typed again is announced again.
-    void theInitialTextAndARepeatAreDelivered()
-    {
         QElapsedTimer clock;
         clock.start();
         TextFieldObserver observer;
         QSignalSpy spy(&observer, &TextFieldObserver::debouncedTextChanged);
         QTRY_COMPARE_WITH_TIMEOUT(spy.size(), 1, 5000);
         QVERIFY(clock.elapsed() >= 990);
-        observer.setSearchText(u""_s);
-        QTRY_COMPARE_WITH_TIMEOUT(spy.size(), 2, 5000);
-        QCOMPARE(observer.debouncedText(), u""_s);
-    }
-
-    void anAbandonedObserverDeliversNothing()
-    {
-        auto *observer = new TextFieldObserver;
-        bool delivered = false;
-        connect(observer, &TextFieldObserver::debouncedTextChanged, this, [&] { delivered = true; });
-        observer->setSearchText(u"pending"_s);
-        delete observer;
-        QTest::qWait(1300);
-        QVERIFY(!delivered);
+        observer.setSearchText(u"apple"_s);
+        observer.settle();
+        QCOMPARE(spy.size(), 2);
+        QCOMPARE(observer.debouncedText(), u"apple"_s);
+        QTest::qWait(1200);
+        QCOMPARE(spy.size(), 2);
+        observer.setSearchText(u"apple"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(spy.size(), 3, 5000);
+        QVERIFY(!abandonedDelivered);
     }
 };
 

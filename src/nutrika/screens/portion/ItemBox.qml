@@ -22,7 +22,8 @@ GridBoxContainer {
 
     halfSize: !isImage
     Accessible.role: Accessible.RadioButton
-    Accessible.name: isImage ? sizeText : sizeText + " (" + portion.description + ")"
+    // The picture tab shows no description; a screen reader says it in both tabs.
+    Accessible.name: sizeText + " (" + portion.description + ")"
     Accessible.checkable: true
     Accessible.checked: selected
     Accessible.onPressAction: tapped()
