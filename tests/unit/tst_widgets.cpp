@@ -187,6 +187,20 @@ private slots:
     }
 
     // Repeating down to the bound is the QML test's; here the timing, and what stops it.
+    // At a bound a step changes nothing and announces nothing: no line is updated to the same amount.
+    void stepsAtTheBoundsAreSilent()
+    {
+        NumberStepper stepper(1, 99999);
+        stepper.setValue(u"99999"_s);
+        QSignalSpy updates(&stepper, &NumberStepper::updated);
+        stepper.tap(NumberStepper::Up);
+        QCOMPARE(stepper.value(), u"99999"_s);
+        stepper.setValue(u"1"_s);
+        stepper.tap(NumberStepper::Down);
+        QCOMPARE(stepper.value(), u"1"_s);
+        QCOMPARE(updates.size(), 1); // the value written, and no step
+    }
+
     void holdingRepeatsFromAFifthOfASecondUntilATap()
     {
         NumberStepper stepper(1, 99999);

@@ -109,7 +109,9 @@ Rectangle {
                 model: filter.options
                 visibleItemCount: 5
                 currentIndex: Math.max(0, filter.options.indexOf(filter.selectedFilterItem))
-                onCurrentIndexChanged: if (sheet.visible && filter.options.length > 0)
+                // Only a turn to another option is reported: the owner's value moving the wheel is not.
+                onCurrentIndexChanged: if (sheet.visible && filter.options.length > 0
+                                               && filter.options[currentIndex] !== filter.selectedFilterItem)
                                            filter.choose(filter.options[currentIndex])
                 Accessible.role: Accessible.List
                 Accessible.name: filter.title
