@@ -127,6 +127,42 @@ ScreenTestCase {
         verify(!control.stepper.isLongPressing)
     }
 
+    // A finger that slides off a held button leaves the repeat running; a tap on the other button then
+    // stops it where it is, however long that finger rests before lifting.
+    function test_stepperTapWhileRepeatingStopsWithoutStepping() {
+        const control = stepper("60")
+        const minus = findChild(control, "minusButton"), plus = findChild(control, "plusButton")
+        mousePress(minus)
+        tryVerify(() => control.stepper.isLongPressing, 2000)
+        mouseMove(minus, minus.width / 2, 200)
+        mouseRelease(minus, minus.width / 2, 200)
+        tryVerify(() => Number(control.value) <= 50, 3000)
+        verify(control.stepper.isLongPressing)
+        mousePress(plus)
+        const stoppedAt = Number(control.value)
+        wait(200)
+        mouseRelease(plus)
+        verify(!control.stepper.isLongPressing)
+        verify(Number(control.value) <= stoppedAt, control.value + " after stopping at " + stoppedAt)
+        const settled = control.value
+        wait(150)
+        compare(control.value, settled)
+    }
+
+    // A field emptied by Backspace reads as the minimum at once, and the next digit replaces it.
+    function test_stepperTypingAfterClearingReplacesTheMinimum() {
+        const control = stepper("5")
+        const field = findChild(control, "numberField")
+        field.forceActiveFocus()
+        field.cursorPosition = field.text.length
+        keyClick(Qt.Key_Backspace)
+        compare(control.value, "1")
+        keyClick("2")
+        compare(field.text, "2")
+        compare(control.value, "2")
+        compare(updates.signalArguments.map(a => a[0]).slice(-1), [2])
+    }
+
     // The picker reports a tap; the owner writes the choice back, so the owner's binding stays in force.
     function test_pickerReportsTheChoiceAndTheOwnerWritesIt() {
         const g = createTemporaryObject(gallery, testCase)

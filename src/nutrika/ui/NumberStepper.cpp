@@ -113,6 +113,10 @@ void NumberStepper::tap(int direction)
 
 void NumberStepper::press(int direction)
 {
+    // A press while repeating only starts the tap that stops the repeat: turning the repeat the other
+    // way until the finger lifts would step away from where the person stopped it.
+    if (m_isLongPressing)
+        return;
     m_pressDirection = direction < 0 ? Down : Up;
     m_recognizer.start();
 }

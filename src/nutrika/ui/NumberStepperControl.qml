@@ -51,7 +51,14 @@ Rectangle {
             Layout.fillWidth: true
             Layout.fillHeight: true
             text: stepper.value
-            onTextEdited: stepper.value = text
+            onTextEdited: {
+                const emptied = text === ""
+                stepper.value = text
+                // An emptied field reads as the minimum at once; selected, the next digit replaces it
+                // rather than joining it ("1" then "2" would count 12).
+                if (emptied)
+                    selectAll()
+            }
             font: Look.arial
             color: "black"
             horizontalAlignment: Text.AlignHCenter

@@ -15,6 +15,11 @@ FocusScope {
     property var presentationMode: null
 
     NavigationStack.onActivated: uiView.appear()
+    Binding {
+        target: screen.uiView
+        property: "inFront"
+        value: screen.navigation.currentItem === screen
+    }
 
     ViewContainer {
         anchors.fill: parent

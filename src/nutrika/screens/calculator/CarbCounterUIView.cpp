@@ -77,6 +77,9 @@ void CarbCounterUIView::appear()
     env->setAccompanimentsActive(false);
     env->setPortionActive(-1);
     env->setDismissFunction([callback = m_onDismissCallback, self = QPointer(this)] {
+        // A meal editor left open under "Close" never hears its removal; the next opening must not
+        // send foods into a meal nobody is composing.
+        EnvironmentVariables::shared()->setEditRecipeActive(false);
         if (callback)
             callback();
         if (self)
@@ -109,7 +112,7 @@ void CarbCounterUIView::getAccompanimentData()
         printDiagnostic("", QJsonDocument(dump).toJson(QJsonDocument::Compact));
         // A second reply before the pop-over shows keeps the first reply's schedule.
         if (!self->m_accompanimentListItems.isEmpty() && !self->m_showAccompanimentList &&
-            !self->m_showTimer->isActive())
+            !self->m_showTimer->isActive() && self->m_inFront)
             self->m_showTimer->start();
     });
 }
@@ -150,6 +153,19 @@ void CarbCounterUIView::setShowAccompanimentList(bool show)
 {
     m_showAccompanimentList = show;
     emit showAccompanimentListChanged();
+}
+
+void CarbCounterUIView::setInFront(bool inFront)
+{
+    if (inFront == m_inFront)
+        return;
+    m_inFront = inFront;
+    emit inFrontChanged();
+    // Suggestions shown over another screen would add to whatever that screen composes.
+    if (!m_inFront)
+        m_showTimer->stop();
+    else if (!m_accompanimentListItems.isEmpty() && !m_showAccompanimentList)
+        m_showTimer->start();
 }
 
 void CarbCounterUIView::setPreview(Preview::Value preview)

@@ -36,6 +36,8 @@ class CarbCounterUIView : public QObject
     Q_PROPERTY(bool showAccompanimentList READ showAccompanimentList WRITE setShowAccompanimentList NOTIFY
                    showAccompanimentListChanged)
     Q_PROPERTY(nutrika::Preview::Value preview READ preview WRITE setPreview NOTIFY previewChanged)
+    /// Written by the screen: no other screen covers the calculator. The suggestions wait until it is.
+    Q_PROPERTY(bool inFront READ inFront WRITE setInFront NOTIFY inFrontChanged)
 
 public:
     using FoodsDone = std::function<void(std::optional<QList<FoodItem>>)>;
@@ -77,6 +79,8 @@ public:
     void setShowAccompanimentList(bool show);
     [[nodiscard]] Preview::Value preview() const { return m_preview; }
     void setPreview(Preview::Value preview);
+    [[nodiscard]] bool inFront() const { return m_inFront; }
+    void setInFront(bool inFront);
 
 signals:
     void totalChanged();
@@ -84,6 +88,7 @@ signals:
     void accompanimentListItemsChanged();
     void showAccompanimentListChanged();
     void previewChanged();
+    void inFrontChanged();
     /// The host's callback, for a host that embeds the module in QML.
     void dismissCallback();
     /// The module's presentation should end (the container hides).
@@ -97,6 +102,7 @@ private:
     QList<FoodItem> m_accompanimentListItems;
     bool m_showAccompanimentList = false;
     Preview::Value m_preview = Preview::NotPreview;
+    bool m_inFront = true;
     QTimer *m_showTimer;
 };
 

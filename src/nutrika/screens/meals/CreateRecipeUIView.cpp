@@ -52,6 +52,7 @@ bool CreateRecipeUIView::open(const DiaryEntryPtr &entry, Mode mode, Mode lastMo
     for (const QMetaObject::Connection &watch : std::as_const(m_entryWatches))
         disconnect(watch);
     m_diaryEntry = entry;
+    m_finished = false;
     m_entryWatches = {
         connect(entry.data(), &DiaryEntry::recipeItemChanged, this, &CreateRecipeUIView::mealChanged),
         connect(entry.data(), &DiaryEntry::totalChanged, this, &CreateRecipeUIView::totalTrackedChanged),
@@ -182,9 +183,18 @@ void CreateRecipeUIView::saveMeal()
     printDiagnostic(rawValue(m_mode));
 }
 
+bool CreateRecipeUIView::finishOnce()
+{
+    if (!m_diaryEntry || m_finished)
+        return false;
+    // The button stays live while the screen slides away: a second tap must not count the meal again.
+    m_finished = true;
+    return true;
+}
+
 void CreateRecipeUIView::addToCalculator()
 {
-    if (!m_diaryEntry)
+    if (!finishOnce())
         return;
     bool number = false;
     if (const qint64 q = m_quantity.toLongLong(&number); number)
@@ -197,7 +207,7 @@ void CreateRecipeUIView::addToCalculator()
 
 void CreateRecipeUIView::update()
 {
-    if (!m_diaryEntry)
+    if (!finishOnce())
         return;
     bool number = false;
     if (const qint64 q = m_quantity.toLongLong(&number); number)

@@ -169,6 +169,8 @@ signals:
     void closeRequested();
 
 private:
+    /// True for the first of the actions that end the screen, false for any after it.
+    bool finishOnce();
     bool refuse(const QString &refusal);
     /// Every write of the mode keeps the one before it.
     void setMode(Mode mode);
@@ -178,6 +180,7 @@ private:
     PreviewOption m_preview = NotPreview;
     Mode m_mode = View;
     Mode m_lastMode = Select;
+    bool m_finished = false;
     DiaryEntryPtr m_diaryEntry;
     QString m_quantity = u"1"_s;
     QString m_error;

@@ -45,6 +45,8 @@ void AddToCalcPreviewUIView::setEntry(DiaryEntryPtr entry, ViewMode mode)
         disconnect(watch);
     m_diaryEntry = std::move(entry);
     m_mode = mode;
+    m_finished = false;
+    m_pendingPortion.reset();
     m_entryWatches = {
         connect(m_diaryEntry.data(), &DiaryEntry::trackedNutrientChanged, this,
                 &AddToCalcPreviewUIView::carbohydratesChanged),
@@ -76,19 +78,33 @@ void AddToCalcPreviewUIView::fetchNutrients()
 {
     if (!m_diaryEntry || !m_diaryEntry->foodItem() || !m_diaryEntry->portion())
         return;
-    m_diaryEntry->setNutrients(QList<NutrientValue>());
+    const PortionItem portion = m_pendingPortion.value_or(*m_diaryEntry->portion());
+    if (!m_pendingPortion)
+        m_diaryEntry->setNutrients(QList<NutrientValue>());
     ++m_pendingRequests;
     emit isLoadingChanged();
     const DiaryEntryPtr entry = m_diaryEntry;
-    // The answer fills the line even when this screen has gone: the line may already be on a list.
-    requestNutrients(*EnvironmentVariables::shared()->serviceClient(), *entry->foodItem(), *entry->portion(),
+    const bool replacing = m_pendingPortion.has_value();
+    // The answer fills the line even when this screen has gone: the line may already be on a list. A new
+    // portion joins the line only together with its own values, so the line never pairs one portion
+    // with the carbohydrates of another.
+    requestNutrients(*EnvironmentVariables::shared()->serviceClient(), *entry->foodItem(), portion,
                      entry.data(),
-                     [entry, self = QPointer(this)](const std::optional<PortionNutrients> &answer) {
+                     [entry, portion, replacing,
+                      self = QPointer(this)](const std::optional<PortionNutrients> &answer) {
                          if (answer) {
+                             if (replacing)
+                                 entry->setPortion(portion);
                              entry->setNutrients(answer->nutrients);
                              entry->setTrackedNutrient(answer->trackedNutrient);
                          }
                          if (self) {
+                             if (answer && replacing && self->m_pendingPortion == portion &&
+                                 self->m_pendingPortion->size == portion.size) {
+                                 self->m_pendingPortion.reset();
+                                 emit self->portionChanged();
+                                 emit self->carbohydratesChanged();
+                             }
                              self->m_nutrientsFailed = !answer;
                              --self->m_pendingRequests;
                              emit self->isLoadingChanged();
@@ -96,9 +112,18 @@ void AddToCalcPreviewUIView::fetchNutrients()
                      });
 }
 
+bool AddToCalcPreviewUIView::finishOnce()
+{
+    if (!m_diaryEntry || m_finished)
+        return false;
+    // The button stays live while the screen slides away: a second tap must not count the line again.
+    m_finished = true;
+    return true;
+}
+
 void AddToCalcPreviewUIView::add()
 {
-    if (!m_diaryEntry)
+    if (!finishOnce())
         return;
     EnvironmentVariables *env = EnvironmentVariables::shared();
     if (env->editRecipeActive()) {
@@ -114,11 +139,18 @@ void AddToCalcPreviewUIView::add()
 
 void AddToCalcPreviewUIView::searchMoreFoods()
 {
-    EnvironmentVariables::shared()->setPortionActive(-1);
+    if (!finishOnce())
+        return;
+    EnvironmentVariables *env = EnvironmentVariables::shared();
+    env->setPortionActive(-1);
+    // Reached from a suggestion, the portion screen hangs on this flag instead.
+    env->setAccompanimentsActive(false);
 }
 
 void AddToCalcPreviewUIView::update()
 {
+    if (!finishOnce())
+        return;
     EnvironmentVariables *env = EnvironmentVariables::shared();
     QList<DiaryEntryPtr> lines = env->TrackedNutrientListItems();
     const qsizetype at = lines.indexOf(m_diaryEntry);
@@ -138,8 +170,12 @@ void AddToCalcPreviewUIView::setLineQuantity(qint64 quantity)
 
 void AddToCalcPreviewUIView::replacePortion(const PortionItem &portion)
 {
-    if (m_diaryEntry)
-        m_diaryEntry->setPortion(portion);
+    if (!m_diaryEntry)
+        return;
+    // The calculator's line keeps its portion until the new one's carbohydrates have arrived.
+    m_pendingPortion = portion;
+    emit portionChanged();
+    emit carbohydratesChanged();
 }
 
 void AddToCalcPreviewUIView::setPreview(Preview::Value preview)
@@ -164,6 +200,8 @@ FoodItem AddToCalcPreviewUIView::foodItem() const
 
 QString AddToCalcPreviewUIView::portionText() const
 {
+    if (m_pendingPortion)
+        return m_pendingPortion->sizeText();
     if (!m_diaryEntry || !m_diaryEntry->portion())
         return {};
     return m_diaryEntry->portion()->sizeText();
@@ -171,7 +209,7 @@ QString AddToCalcPreviewUIView::portionText() const
 
 QString AddToCalcPreviewUIView::carbohydratesText() const
 {
-    if (!m_diaryEntry || !m_diaryEntry->trackedNutrient() || m_diaryEntry->quantity() < 1)
+    if (m_pendingPortion || !m_diaryEntry || !m_diaryEntry->trackedNutrient() || m_diaryEntry->quantity() < 1)
         return {};
     const NutrientValue &tracked = *m_diaryEntry->trackedNutrient();
     bool number = false;

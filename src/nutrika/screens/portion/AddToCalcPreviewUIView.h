@@ -65,7 +65,7 @@ public:
     Q_INVOKABLE void update();
     /// The stepper's report: its normalised text and the line's quantity.
     Q_INVOKABLE void setLineQuantity(qint64 quantity);
-    /// The portion screen's answer in edit mode.
+    /// The portion screen's answer in edit mode; it reaches the line with its nutrients.
     Q_INVOKABLE void replacePortion(const nutrika::PortionItem &portion);
 
     [[nodiscard]] Preview::Value preview() const { return m_preview; }
@@ -96,6 +96,8 @@ signals:
 
 private:
     void setEntry(DiaryEntryPtr entry, ViewMode mode);
+    /// True for the first of the actions that end the screen, false for any after it.
+    bool finishOnce();
 
     Preview::Value m_preview = Preview::NotPreview;
     ViewMode m_mode = AddNew;
@@ -103,6 +105,9 @@ private:
     QString m_quantity = u"1"_s;
     int m_pendingRequests = 0;
     bool m_nutrientsFailed = false;
+    bool m_finished = false;
+    /// Edit mode: the portion chosen on the portion screen, waiting for its nutrients.
+    std::optional<PortionItem> m_pendingPortion;
     QList<QMetaObject::Connection> m_entryWatches;
 };
 

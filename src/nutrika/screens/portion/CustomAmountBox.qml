@@ -47,6 +47,7 @@ GridBoxContainer {
             // A box scrolled back into view shows the amount typed before.
             Component.onCompleted: text = box.uiView.customText
             onTextEdited: {
+                box.tapped()
                 box.uiView.customText = text
                 // The view state decides what the field shows: only the digits, the caret kept in place.
                 if (text !== box.uiView.customText) {
@@ -55,7 +56,12 @@ GridBoxContainer {
                     cursorPosition = Math.max(0, Math.min(caret, text.length))
                 }
             }
-            onActiveFocusChanged: if (activeFocus) box.tapped()
+            // Chosen by a click or by tabbing in; focus given back as a screen returns is no choice.
+            onActiveFocusChanged: {
+                if (activeFocus && (focusReason === Qt.MouseFocusReason || focusReason === Qt.TabFocusReason
+                                    || focusReason === Qt.BacktabFocusReason))
+                    box.tapped()
+            }
             Keys.onReturnPressed: box.submitted()
             Keys.onEnterPressed: box.submitted()
             background: Rectangle {
