@@ -88,28 +88,27 @@ void AddToCalcPreviewUIView::fetchNutrients()
     // The answer fills the line even when this screen has gone: the line may already be on a list. A new
     // portion joins the line only together with its own values, so the line never pairs one portion
     // with the carbohydrates of another.
-    requestNutrients(*EnvironmentVariables::shared()->serviceClient(), *entry->foodItem(), portion,
-                     entry.data(),
-                     [entry, portion, replacing,
-                      self = QPointer(this)](const std::optional<PortionNutrients> &answer) {
-                         if (answer) {
-                             if (replacing)
-                                 entry->setPortion(portion);
-                             entry->setNutrients(answer->nutrients);
-                             entry->setTrackedNutrient(answer->trackedNutrient);
-                         }
-                         if (self) {
-                             if (answer && replacing && self->m_pendingPortion == portion &&
-                                 self->m_pendingPortion->size == portion.size) {
-                                 self->m_pendingPortion.reset();
-                                 emit self->portionChanged();
-                                 emit self->carbohydratesChanged();
-                             }
-                             self->m_nutrientsFailed = !answer;
-                             --self->m_pendingRequests;
-                             emit self->isLoadingChanged();
-                         }
-                     });
+    requestNutrients(
+        *EnvironmentVariables::shared()->serviceClient(), *entry->foodItem(), portion, entry.data(),
+        [entry, portion, replacing, self = QPointer(this)](const std::optional<PortionNutrients> &answer) {
+            if (answer) {
+                if (replacing)
+                    entry->setPortion(portion);
+                entry->setNutrients(answer->nutrients);
+                entry->setTrackedNutrient(answer->trackedNutrient);
+            }
+            if (self) {
+                if (answer && replacing && self->m_pendingPortion == portion &&
+                    self->m_pendingPortion->size == portion.size) {
+                    self->m_pendingPortion.reset();
+                    emit self->portionChanged();
+                    emit self->carbohydratesChanged();
+                }
+                self->m_nutrientsFailed = !answer;
+                --self->m_pendingRequests;
+                emit self->isLoadingChanged();
+            }
+        });
 }
 
 bool AddToCalcPreviewUIView::finishOnce()
