@@ -226,6 +226,8 @@ private slots:
         fromList->appear();
         fromList->setQuantity(u"2"_s);
         fromList->addToCalculator();
+        fromList->addToCalculator(); // a second tap while the screen slides away
+        QCOMPARE(env->TrackedNutrientListItems().size(), 2);
         QCOMPARE(env->TrackedNutrientListItems().last(), fromList->diaryEntry());
         QVERIFY(env->CurrentRecipeItems().isEmpty());
         QVERIFY(!env->searchActive());
