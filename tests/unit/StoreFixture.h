@@ -2,7 +2,9 @@
 
 #include "Preferences.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
@@ -26,7 +28,31 @@ public:
         settings.sync();
     }
 
-    static void clear() { storeRaw(QVariant()); }
+    /// Removes every file of the store: the preferences, their locks and the copies kept of unreadable
+    /// stores. Not through the settings, whose lock a writer killed in its save may have left behind.
+    static void clear()
+    {
+        QDir folder = QFileInfo(nutrika::Preferences().fileName()).dir();
+        for (const QString &file : folder.entryList(QDir::Files | QDir::Hidden))
+            folder.remove(file);
+    }
+
+    /// The copies of unreadable stores kept beside the preferences file.
+    [[nodiscard]] static QStringList keptCopies()
+    {
+        const QFileInfo store(nutrika::Preferences().fileName());
+        QStringList paths;
+        for (const QFileInfo &copy :
+             store.dir().entryInfoList({store.completeBaseName() + QStringLiteral("-unreadable-*")}))
+            paths << copy.filePath();
+        return paths;
+    }
+
+    [[nodiscard]] static QByteArray fileBytes()
+    {
+        QFile file(nutrika::Preferences().fileName());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
 
     [[nodiscard]] static QByteArray storedDocument()
     {

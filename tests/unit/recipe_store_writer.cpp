@@ -2,6 +2,9 @@
 //   recipe_store_writer loop               appends and rewrites meals until it is killed
 //   recipe_store_writer own <id> <rounds>  after a line on stdin, saves revisions 1..rounds of meal <id>;
 //                                          fails as soon as its previous revision is no longer stored
+//   recipe_store_writer new <tag> <count>  after a line on stdin, saves <count> new meals named "<tag> <n>",
+//                                          as the meal editor does
+#include "CreateRecipeUIView.h"
 #include "DiaryEntry.h"
 #include "ExampleData.h"
 #include "RecipeStore.h"
@@ -39,7 +42,10 @@ int main(int argc, char **argv)
         for (qint64 round = 0;; ++round) {
             // Grow to 40 meals, then keep rewriting them so every save replaces a whole document.
             const qsizetype stored = getRecipes().size();
-            saveRecipe(mealRevision(stored < 40 ? stored : round % 40, round));
+            if (stored < 40)
+                (void)saveNewRecipe(mealRevision(stored, round));
+            else
+                saveRecipe(mealRevision(round % 40, round));
             std::fprintf(stderr, "saved\n");
         }
     }
@@ -55,6 +61,24 @@ int main(int argc, char **argv)
         }
         return 0;
     }
-    std::fprintf(stderr, "usage: recipe_store_writer loop | own <id> <rounds>\n");
+    if (args.size() == 4 && args.at(1) == u"new") {
+        (void)std::getchar();
+        for (qint64 n = 0; n < args.at(3).toLongLong(); ++n) {
+            const QString name = u"%1 %2"_s.arg(args.at(2)).arg(n);
+            CreateRecipeUIView editor;
+            editor.openNewMeal(CreateRecipeUIView::New, CreateRecipeUIView::Select, u"1"_s);
+            editor.setRecipeName(name);
+            editor.saveMeal();
+            // Only appends happen meanwhile, so the meal stays where the editor was told it went.
+            const qint64 id = editor.diaryEntry()->recipeItem()->id;
+            if (getRecipes().value(id).name != name) {
+                std::fprintf(stderr, "%s was saved as meal %lld but is not stored there\n", qPrintable(name),
+                             qlonglong(id));
+                return 1;
+            }
+        }
+        return 0;
+    }
+    std::fprintf(stderr, "usage: recipe_store_writer loop | own <id> <rounds> | new <tag> <count>\n");
     return 2;
 }

@@ -8,6 +8,7 @@
 #include <QElapsedTimer>
 #include <QJsonDocument>
 #include <QRandomGenerator>
+#include <QRegularExpression>
 #include <QTest>
 
 using namespace nutrika;
@@ -149,39 +150,72 @@ private slots:
         QCOMPARE(getRecipes().value(0).name, u"After a crash"_s);
     }
 
-    // Whatever is stored, or whatever became of the whole file, reads as no meals and takes a new first one.
-    void unreadableStoreReadsAsEmpty_data()
+    // Whatever is stored, or whatever became of the whole file, reads as no meals and takes a new first one;
+    // bytes that held anything are first copied whole beside the store, once.
+    void unreadableStoreReadsAsEmptyAndIsKept_data()
     {
         QTest::addColumn<QVariant>("stored");
         QTest::addColumn<bool>("wholeFile");
-        QTest::newRow("null") << QVariant(QByteArray("null")) << false;
-        QTest::newRow("empty bytes") << QVariant(QByteArray()) << false;
-        QTest::newRow("random bytes") << QVariant(randomBytes(1024)) << false;
+        QTest::addColumn<bool>("kept");
+        QTest::newRow("null") << QVariant(QByteArray("null")) << false << false;
+        QTest::newRow("empty bytes") << QVariant(QByteArray()) << false << false;
+        QTest::newRow("random bytes") << QVariant(randomBytes(1024)) << false << true;
+        QTest::newRow("text, not bytes") << QVariant(u"[]"_s) << false << true;
         QTest::newRow("nested 100000 deep")
-            << QVariant(QByteArray(100000, '[') + QByteArray(100000, ']')) << false;
-        QTest::newRow("an object") << QVariant(QByteArray(R"({"recipes":[]})")) << false;
-        QTest::newRow("array of numbers") << QVariant(QByteArray("[1,2,3]")) << false;
-        QTest::newRow("id out of range") << QVariant(storedMealWith("id", 1e300)) << false;
-        QTest::newRow("id as text") << QVariant(storedMealWith("id", u"0"_s)) << false;
+            << QVariant(QByteArray(100000, '[') + QByteArray(100000, ']')) << false << true;
+        QTest::newRow("an object") << QVariant(QByteArray(R"({"recipes":[]})")) << false << true;
+        QTest::newRow("array of numbers") << QVariant(QByteArray("[1,2,3]")) << false << true;
+        QTest::newRow("id out of range") << QVariant(storedMealWith("id", 1e300)) << false << true;
+        QTest::newRow("id as text") << QVariant(storedMealWith("id", u"0"_s)) << false << true;
         QTest::newRow("items missing a key")
-            << QVariant(storedMealWith("items", QJsonArray{QJsonObject{{u"id"_s, 1}}})) << false;
-        QTest::newRow("truncated document") << QVariant(storedMealWith("name", u"x"_s).chopped(3)) << false;
-        QTest::newRow("empty file") << QVariant(QByteArray()) << true;
-        QTest::newRow("random file") << QVariant(randomBytes(250)) << true;
+            << QVariant(storedMealWith("items", QJsonArray{QJsonObject{{u"id"_s, 1}}})) << false << true;
+        QTest::newRow("truncated document")
+            << QVariant(storedMealWith("name", u"x"_s).chopped(3)) << false << true;
+        QJsonArray three{meal(0, u"Kept"_s).toJson(), meal(1, u"No servings"_s).toJson(),
+                         meal(2, u"Kept"_s).toJson()};
+        QJsonObject noServings = three.at(1).toObject();
+        noServings.remove(u"servings"_s);
+        three.replace(1, noServings);
+        QTest::newRow("three meals, one without servings")
+            << QVariant(QJsonDocument(three).toJson(QJsonDocument::Compact)) << false << true;
+        QTest::newRow("empty file") << QVariant(QByteArray()) << true << false;
+        QTest::newRow("random file") << QVariant(randomBytes(250)) << true << true;
         QTest::newRow("text settings file")
-            << QVariant(QByteArray("[General]\nrecipes=@ByteArray([])\n")) << true;
-        QTest::newRow("right header, truncated map") << QVariant(QByteArray("NTR1\0\0\0\x05", 8)) << true;
+            << QVariant(QByteArray("[General]\nrecipes=@ByteArray([])\n")) << true << true;
+        QTest::newRow("right header, truncated map")
+            << QVariant(QByteArray("NTR1\0\0\0\x05", 8)) << true << true;
+        saveRecipe(meal(0, u"Whole"_s));
+        saveRecipe(meal(1, u"Cut short"_s));
+        QTest::newRow("truncated file that still holds a whole meal")
+            << QVariant(StoreFixture::fileBytes().chopped(40)) << true << true;
     }
 
-    void unreadableStoreReadsAsEmpty()
+    void unreadableStoreReadsAsEmptyAndIsKept()
     {
         QFETCH(QVariant, stored);
         QFETCH(bool, wholeFile);
+        QFETCH(bool, kept);
         saveRecipe(meal(0, QStringLiteral("Lost")));
         wholeFile ? StoreFixture::overwriteFile(stored.toByteArray()) : StoreFixture::storeRaw(stored);
+        const QByteArray before = StoreFixture::fileBytes();
         QVERIFY(getRecipes().isEmpty());
+        if (kept)
+            QTest::ignoreMessage(QtWarningMsg,
+                                 QRegularExpression(u"^Saved meals could not be read; the file is "
+                                                    u"kept as .*/nutrika-unreadable-"
+                                                    u"\\d{4}-\\d\\d-\\d\\dT\\d\\d-\\d\\d-\\d\\d.prefs$"_s));
         saveRecipe(meal(0, QStringLiteral("New")));
+        saveRecipe(meal(1, QStringLiteral("Then another")));
         QCOMPARE(getRecipes().value(0).name, u"New"_s);
+        QCOMPARE(getRecipes().value(1).name, u"Then another"_s);
+
+        const QStringList copies = StoreFixture::keptCopies();
+        QCOMPARE(copies.size(), kept ? 1 : 0);
+        if (kept) {
+            QFile copy(copies.first());
+            QVERIFY(copy.open(QIODevice::ReadOnly));
+            QCOMPARE(copy.readAll(), before);
+        }
     }
 
     void searchFilterIsACaseSensitiveSubstring_data()

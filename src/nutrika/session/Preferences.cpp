@@ -46,11 +46,18 @@ Preferences::Preferences() : QSettings(preferencesFormat(), QSettings::UserScope
 
 QVariant Preferences::valueOnDisk(const QString &key) const
 {
+    return valuesOnDisk().value_or(SettingsMap()).value(key);
+}
+
+std::optional<QSettings::SettingsMap> Preferences::valuesOnDisk() const
+{
     QFile file(fileName());
-    QSettings::SettingsMap map;
-    if (!file.open(QIODevice::ReadOnly) || !readPreferences(file, map))
-        return {};
-    return map.value(key);
+    SettingsMap map;
+    if (!file.open(QIODevice::ReadOnly) || file.size() == 0)
+        return map;
+    if (!readPreferences(file, map))
+        return std::nullopt;
+    return map;
 }
 
 } // namespace nutrika

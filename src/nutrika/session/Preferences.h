@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <QSettings>
 
 namespace nutrika {
@@ -14,6 +15,10 @@ public:
     /// The value under `key` as the file holds it now. QSettings rereads its file only when the size or
     /// the millisecond of the last change differs, so it can miss a same-sized write by another process.
     [[nodiscard]] QVariant valueOnDisk(const QString &key) const;
+
+    /// Every value the file holds now: none when there is no file or it is empty, nullopt when it holds
+    /// bytes that cannot be read as preferences.
+    [[nodiscard]] std::optional<SettingsMap> valuesOnDisk() const;
 };
 
 } // namespace nutrika

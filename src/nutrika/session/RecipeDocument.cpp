@@ -94,11 +94,16 @@ bool readsBack(const QByteArray &meal)
 
 } // namespace
 
-RecipeSave saveIntoRecipeDocument(const QByteArray &stored, const RecipeItem &recipe)
+RecipeSave saveIntoRecipeDocument(const QByteArray &stored, RecipeItem recipe, RecipeId id)
 {
     RecipeSave save;
+    const std::optional<QList<RecipeItem>> decoded = decodeRecipeDocument(stored);
+    save.storedReadable = decoded.has_value();
+    const QList<RecipeItem> list = decoded.value_or(QList<RecipeItem>());
+    if (id == RecipeId::Next)
+        recipe.id = list.size();
+    save.id = recipe.id;
     save.meal = QJsonDocument(recipe.toJson()).toJson(QJsonDocument::Compact);
-    const QList<RecipeItem> list = decodeRecipeDocument(stored).value_or(QList<RecipeItem>());
     save.appended = recipe.id == list.size();
     if (save.appended) {
         save.index = list.size();

@@ -18,6 +18,10 @@ namespace nutrika {
 /// What saving one meal makes of the stored document.
 struct RecipeSave
 {
+    /// The id the meal is saved under.
+    qint64 id = -1;
+    /// Whether the stored document decoded; when it did not, the save writes over bytes nobody could read.
+    bool storedReadable = false;
     /// The meal as it is written into the document.
     QByteArray meal;
     /// Whether the meal's id is the number of stored meals, so that it is appended without a search.
@@ -29,8 +33,18 @@ struct RecipeSave
     std::optional<QByteArray> document;
 };
 
+/// Which id a saved meal carries.
+enum class RecipeId
+{
+    /// The meal's own: a new meal's id was given before the save.
+    Kept,
+    /// The number of stored meals, taken from the same read as the save, so a new meal is appended.
+    Next,
+};
+
 /// Saves `recipe` into the `stored` document: appended when its id equals the number of stored meals,
 /// otherwise in place of the stored meal with its id. A document that does not decode counts as no meals.
-[[nodiscard]] RecipeSave saveIntoRecipeDocument(const QByteArray &stored, const RecipeItem &recipe);
+[[nodiscard]] RecipeSave saveIntoRecipeDocument(const QByteArray &stored, RecipeItem recipe,
+                                                RecipeId id = RecipeId::Kept);
 
 } // namespace nutrika

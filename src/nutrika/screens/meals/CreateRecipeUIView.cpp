@@ -168,10 +168,12 @@ void CreateRecipeUIView::saveMeal()
         return;
     RecipeItem recipe = meal();
     if (recipe.id == -1) {
-        recipe.id = getRecipes().size();
+        // The store gives the id while it holds the file, so another process saving at once cannot take it.
+        recipe.id = saveNewRecipe(recipe);
         setMeal(recipe);
+    } else {
+        saveRecipe(recipe);
     }
-    saveRecipe(recipe);
     if (m_mode == New) {
         setMode(Select);
         m_lastMode = Edit;
