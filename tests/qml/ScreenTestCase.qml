@@ -46,6 +46,29 @@ TestCase {
         return Array.from({ length: list.count }, (_, i) => findChild(list.itemAtIndex(i), "lineAmount").text)
     }
 
+    // What each line says it counts, under its name.
+    function lineDetails(root) {
+        lineAmounts(root)
+        const list = findChild(root, "lineList")
+        return Array.from({ length: list.count }, (_, i) => findChild(list.itemAtIndex(i), "lineDetail").text)
+    }
+
+    // The largest pixel size of any visible text under `item`, but for the title bar and the buttons.
+    function largestOtherText(item, except) {
+        let largest = 0
+        const visit = node => {
+            const isButton = node.symbol !== undefined && node.fillColor !== undefined
+            if (!node.visible || node.objectName === "titleBar" || isButton)
+                return
+            if (node !== except && node.font !== undefined && node.text !== undefined && node.text !== "")
+                largest = Math.max(largest, node.font.pixelSize)
+            for (let i = 0; i < node.children.length; ++i)
+                visit(node.children[i])
+        }
+        visit(item)
+        return largest
+    }
+
     // Taps the result titled `title`, after typing `query` when given. The service's description may go
     // on in parentheses ("... water (includes boiling ...").
     function tapFood(screen, title, query) {

@@ -7,6 +7,11 @@ ScreenTestCase {
     name: "Calculator"
 
     Component {
+        id: wideComponent
+        NutrikaRoot { width: 1000; height: 900 }
+    }
+
+    Component {
         id: previewComponent // the calculator with its sample lines
         NutrikaRoot { anchors.fill: parent; calculator: CarbCounterUIView { preview: Preview.Main } }
     }
@@ -69,5 +74,36 @@ ScreenTestCase {
         findChild(root, "searchMoreButton").forceActiveFocus()
         keyClick(Qt.Key_Enter)
         compare(EnvironmentVariables.searchActive, true)
+    }
+
+    // Each line says what it counts, read with its name and amount as one row; the amounts and the total
+    // end in one column, and the total is the largest figure on the screen.
+    function test_linesSayWhatTheyCountAndTheTotalStandsOut() {
+        SessionProbe.addExampleLines()
+        const root = createTemporaryObject(rootComponent, testCase)
+        compare(lineDetails(root), ["23 g × 2", "1 serving of 2"])
+        const list = findChild(root, "lineList")
+        compare(list.itemAtIndex(1).Accessible.name, "Half A Burger, 1 serving of 2, 19.4 g")
+        const entry = root.calculator.line(0)
+        try {
+            entry.quantity = 12
+            tryCompare(findChild(list.itemAtIndex(0), "lineDetail"), "text", "23 g × 12")
+        } finally {
+            entry.quantity = 2 // the samples are shared by every test
+        }
+
+        const total = findChild(root, "totalAmount")
+        verify(total.font.pixelSize > largestOtherText(root.navigation.get(0), total))
+        const rightEdge = item => item.mapToItem(root, item.width, 0).x
+        for (let i = 0; i < list.count; ++i)
+            compare(rightEdge(findChild(list.itemAtIndex(i), "lineAmount")), rightEdge(total))
+
+        const wide = createTemporaryObject(wideComponent, testCase)
+        const wideList = findChild(wide, "lineList")
+        tryVerify(() => wideList.itemAtIndex(1) !== null)
+        const wideTotal = findChild(wide, "totalAmount")
+        compare(rightEdge(findChild(wideList.itemAtIndex(1), "lineAmount")), rightEdge(wideTotal))
+        verify(rightEdge(wideTotal) < 1000 - 180) // in sight of the food names on a wide window
+        shoot(wide, "calculator-wide")
     }
 }

@@ -56,14 +56,18 @@ ScreenTestCase {
 
         // 3. "1 medium" is the pictured 118 g portion. A double tap enlarges the picture; the keyboard
         // alone then chooses: arrows, Space, Enter.
+        // The screen, and the enlarged picture, say which food the portions are of.
+        compare(findChild(portions, "foodName").text, "Bananas, raw")
         compare(portions.uiView.tabOption, 0)
         const box = portionBox(portions, mediumBanana)
         compare(box.portion.size, 118)
+        const medium118 = box.portion.description + " · 118 g"
         tryVerify(() => findChild(box, "thumbnail").hasImage, 5000)
         mouseDoubleClickSequence(box)
         const sheet = findChild(box, "fullImageSheet")
         tryVerify(() => sheet.opened)
         tryVerify(() => sheet.picture.hasImage, 5000)
+        compare(findChild(sheet.contentItem, "sheetFoodName").text, "Bananas, raw")
         shoot(portions.Window.contentItem, "portion-full-image")
         keyClick(Qt.Key_Escape)
         tryVerify(() => !sheet.visible)
@@ -86,6 +90,9 @@ ScreenTestCase {
         const perPortion = ServiceProbe.carbohydrates(bananaId, 118, "grams")
         verify(perPortion > 20 && perPortion < 35)
         compare(carbsShown(preview), round1(perPortion) + "g")
+        // The figure a dose is taken from is the largest on the screen, next to its label.
+        const carbs = findChild(preview, "carbohydratesValue")
+        verify(carbs.font.pixelSize > largestOtherText(preview, carbs))
         mouseClick(findChild(preview, "searchMoreButton"))
         settle(root.navigation, 2)
         compare(EnvironmentVariables.portionActive, -1)
@@ -107,6 +114,7 @@ ScreenTestCase {
         settle(root.navigation, 1)
         const banana = round1(2 * perPortion)
         compare(lineAmounts(root), [grams(banana)])
+        compare(lineDetails(root), [medium118 + " × 2"])
         compare(findChild(root, "totalAmount").text, grams(banana))
 
         // 6. A second later the suggestions show; the first one is taken through its portions.
@@ -122,6 +130,7 @@ ScreenTestCase {
         tryVerify(() => !popup.visible)
         portions = settle(root.navigation, 2)
         compare(portions.uiView.selectedFood.id, suggestion.id)
+        compare(findChild(portions, "foodName").text, suggestion.description)
         typeCustomGrams(portions, "100")
         preview = settle(root.navigation, 3)
         const extra = round1(ServiceProbe.carbohydrates(suggestion.id, 100, "grams"))
@@ -129,6 +138,7 @@ ScreenTestCase {
         mouseClick(findChild(preview, "addButton"))
         settle(root.navigation, 1)
         compare(lineAmounts(root), [grams(banana), grams(extra)])
+        compare(lineDetails(root), [medium118 + " × 2", "100 g"])
         compare(findChild(root, "totalAmount").text, grams(banana + extra))
 
         // 7. The second food brings its own suggestions. "Continue Adding" opens the search; back on the
@@ -159,6 +169,7 @@ ScreenTestCase {
         mouseClick(findChild(preview, "updateButton"))
         settle(root.navigation, 1)
         compare(lineAmounts(root), [grams(fifty), grams(extra)])
+        compare(lineDetails(root), ["50 g × 2", "100 g"])
         compare(findChild(root, "totalAmount").text, grams(fifty + extra))
         shoot(root, "calculator-after-journey")
 

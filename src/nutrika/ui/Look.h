@@ -30,6 +30,10 @@ class Look : public QObject
     Q_PROPERTY(int bodySize MEMBER m_bodySize CONSTANT)
     Q_PROPERTY(int calloutSize MEMBER m_calloutSize CONSTANT)
     Q_PROPERTY(int captionSize MEMBER m_captionSize CONSTANT)
+    /// The carbohydrates a dose is taken from: larger than any other text on their screens.
+    Q_PROPERTY(int figureSize MEMBER m_figureSize CONSTANT)
+    /// The widest a screen's rows grow, so that a number stays in sight of its label on a wide window.
+    Q_PROPERTY(int readingWidth MEMBER m_readingWidth CONSTANT)
     /// Opacity of result rows while a new search replaces them; black on white stays readable.
     Q_PROPERTY(qreal staleOpacity READ staleOpacity CONSTANT)
 
@@ -57,6 +61,8 @@ private:
     int m_bodySize = 17;
     int m_calloutSize = 16;
     int m_captionSize = 12;
+    int m_figureSize = 34;
+    int m_readingWidth = 640;
 };
 
 } // namespace nutrika

@@ -36,10 +36,11 @@ Rectangle {
             objectName: "minusButton"
             Layout.leftMargin: 7
             iconName: "minus.circle.fill"
-            accessibleName: qsTr("Decrease")
+            accessibleName: qsTr("Decrease %1").arg(control.accessibleName)
             onActivated: stepper.tap(NumberStepper.Down)
             TapHandler {
                 longPressThreshold: 3600 // the stepper recognises the long press itself
+                margin: 10 // a finger-sized target around the 25-point circle
                 onPressedChanged: if (pressed) stepper.press(NumberStepper.Down)
                 onTapped: stepper.release(NumberStepper.Down)
                 onCanceled: stepper.cancelPress()
@@ -72,10 +73,11 @@ Rectangle {
             objectName: "plusButton"
             Layout.rightMargin: 7
             iconName: "plus.circle.fill"
-            accessibleName: qsTr("Increase")
+            accessibleName: qsTr("Increase %1").arg(control.accessibleName)
             onActivated: stepper.tap(NumberStepper.Up)
             TapHandler {
                 longPressThreshold: 3600
+                margin: 10
                 onPressedChanged: if (pressed) stepper.press(NumberStepper.Up)
                 onTapped: stepper.release(NumberStepper.Up)
                 onCanceled: stepper.cancelPress()

@@ -6,6 +6,8 @@ Item {
     id: header
 
     property string counterHeader: ""
+    // Where the amounts' column ends, from the right edge.
+    property real rightInset: 16
 
     implicitHeight: counter.implicitHeight + 32
     height: implicitHeight
@@ -27,7 +29,7 @@ Item {
         id: counter
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        anchors.rightMargin: 16
+        anchors.rightMargin: header.rightInset
         width: Math.min(implicitWidth, 170)
         text: header.counterHeader
         font.bold: true

@@ -1,23 +1,28 @@
 import QtQuick
 import Nutrika
 
-// One calculator line: the food (bold) or meal name, its amount and the remove cross.
-// A tap or Enter opens the line; the cross removes it.
+// One calculator line: the food (bold) or meal name with what it counts under it, its amount and the
+// remove cross. A tap or Enter opens the line; the cross removes it.
 Rectangle {
     id: line
 
     property string title: ""
     property bool isFood: true
     property string amount: ""
+    // The portion and quantity, or the meal's servings: what the amount was counted from.
+    property string detail: ""
+    // Where the amount ends, from the right edge; the remove button sits in that space.
+    property real amountRightInset: 54
 
     signal opened()
     signal removed()
 
-    implicitHeight: Math.max(lineTitle.implicitHeight, lineAmount.implicitHeight, removeButton.height) + 20
+    implicitHeight: Math.max(titles.implicitHeight, lineAmount.implicitHeight, removeButton.height) + 20
     color: activeFocus ? "#e8f3f7" : "white"
     activeFocusOnTab: true
     Accessible.role: Accessible.Button
-    Accessible.name: amount === "" ? title : title + ", " + amount
+    // Name, portion and amount as one row.
+    Accessible.name: title + (detail === "" ? "" : ", " + detail) + (amount === "" ? "" : ", " + amount)
     Accessible.onPressAction: opened()
     Keys.onReturnPressed: opened()
     Keys.onEnterPressed: opened()
@@ -27,26 +32,41 @@ Rectangle {
         onTapped: line.opened()
     }
 
-    Text {
-        id: lineTitle
-        objectName: "lineTitle"
+    Column {
+        id: titles
         anchors.left: parent.left
         anchors.right: lineAmount.left
         anchors.verticalCenter: parent.verticalCenter
         anchors.leftMargin: 16
         anchors.rightMargin: 8
-        text: line.title
-        font.bold: line.isFood
-        font.pixelSize: Look.bodySize
-        color: "black"
-        wrapMode: Text.Wrap
+        spacing: 2
+
+        Text {
+            id: lineTitle
+            objectName: "lineTitle"
+            width: parent.width
+            text: line.title
+            font.bold: line.isFood
+            font.pixelSize: Look.bodySize
+            color: "black"
+            wrapMode: Text.Wrap
+        }
+        Text {
+            objectName: "lineDetail"
+            width: parent.width
+            visible: text !== ""
+            text: line.detail
+            font.pixelSize: Look.calloutSize - 1
+            color: "#555555" // quieter than the name, and still 7:1 on white
+            wrapMode: Text.Wrap
+        }
     }
     Text {
         id: lineAmount
         objectName: "lineAmount"
-        anchors.right: removeButton.left
+        anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        anchors.rightMargin: 8
+        anchors.rightMargin: line.amountRightInset
         width: Math.min(implicitWidth, 145)
         text: line.amount
         font.pixelSize: Look.bodySize
@@ -58,9 +78,10 @@ Rectangle {
         objectName: "removeButton"
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        anchors.rightMargin: 16
-        width: 25
-        height: 25
+        anchors.rightMargin: 6
+        // A finger-sized target around the 25-point cross.
+        width: 44
+        height: 44
         symbol: "xmark.circle"
         text: qsTr("Remove %1").arg(line.title)
         textColor: "#c40000"

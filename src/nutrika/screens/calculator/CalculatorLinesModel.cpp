@@ -3,6 +3,8 @@
 #include "EnvironmentVariables.h"
 #include "Formatting.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace nutrika {
 
 CalculatorLinesModel::CalculatorLinesModel(EnvironmentVariables *session, QObject *parent)
@@ -32,6 +34,8 @@ QVariant CalculatorLinesModel::data(const QModelIndex &index, int role) const
         return lineAmount(entry);
     case EntryRole:
         return QVariant::fromValue(const_cast<DiaryEntry *>(&entry));
+    case DetailRole:
+        return lineDetail(entry);
     default:
         return {};
     }
@@ -39,7 +43,11 @@ QVariant CalculatorLinesModel::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> CalculatorLinesModel::roleNames() const
 {
-    return {{TitleRole, "title"}, {IsFoodRole, "isFood"}, {AmountRole, "amount"}, {EntryRole, "entry"}};
+    return {{TitleRole, "title"},
+            {IsFoodRole, "isFood"},
+            {AmountRole, "amount"},
+            {EntryRole, "entry"},
+            {DetailRole, "detail"}};
 }
 
 DiaryEntryPtr CalculatorLinesModel::line(int row) const
@@ -54,6 +62,27 @@ QString CalculatorLinesModel::lineAmount(const DiaryEntry &entry)
     return complete ? amountText(entry.totalTrackedNutrient()) : QString();
 }
 
+QString CalculatorLinesModel::lineDetail(const DiaryEntry &entry)
+{
+    const qint64 quantity = entry.quantity();
+    if (entry.type() == EntryType::Recipe) {
+        if (!entry.recipeItem())
+            return {};
+        const qint64 servings = entry.recipeItem()->servings;
+        return quantity == 1 ? tr("1 serving of %1").arg(servings)
+                             : tr("%1 servings of %2").arg(quantity).arg(servings);
+    }
+    if (!entry.portion())
+        return {};
+    const PortionItem &portion = *entry.portion();
+    const QString weight = QString::number(portion.size) + u' ' + formatUnitShort(portion.unit).trimmed();
+    // A custom amount is its weight alone; its portion record describes nothing the person chose.
+    QString detail = portion.id == basePortionItem().id ? weight : portion.description + u" · "_s + weight;
+    if (quantity > 1)
+        detail += u" × "_s + QString::number(quantity);
+    return detail;
+}
+
 void CalculatorLinesModel::reload()
 {
     beginResetModel();
@@ -66,6 +95,8 @@ void CalculatorLinesModel::reload()
         const auto changed = [this, entry] { lineChanged(entry); };
         m_watches.append(connect(entry, &DiaryEntry::totalChanged, this, changed));
         m_watches.append(connect(entry, &DiaryEntry::titleChanged, this, changed));
+        m_watches.append(connect(entry, &DiaryEntry::portionChanged, this, changed));
+        m_watches.append(connect(entry, &DiaryEntry::quantityChanged, this, changed));
     }
     endResetModel();
     emit totalChanged();
@@ -76,7 +107,7 @@ void CalculatorLinesModel::lineChanged(const DiaryEntry *entry)
     // One object may stand at several positions; every one of them shows the change.
     for (int row = 0; row < m_lines.size(); ++row) {
         if (m_lines.at(row).data() == entry)
-            emit dataChanged(index(row), index(row), {TitleRole, AmountRole});
+            emit dataChanged(index(row), index(row), {TitleRole, AmountRole, DetailRole});
     }
     emit totalChanged();
 }

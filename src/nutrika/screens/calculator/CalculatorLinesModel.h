@@ -23,7 +23,8 @@ public:
         TitleRole = Qt::UserRole + 1,
         IsFoodRole,
         AmountRole,
-        EntryRole
+        EntryRole,
+        DetailRole
     };
 
     explicit CalculatorLinesModel(EnvironmentVariables *session, QObject *parent = nullptr);
@@ -36,6 +37,9 @@ public:
     [[nodiscard]] DiaryEntryPtr line(int row) const;
     /// The line's amount, or "" when the line lacks what its amount needs.
     [[nodiscard]] static QString lineAmount(const DiaryEntry &entry);
+    /// What the line counts, so a person can check it before dosing: the portion and its weight, times
+    /// the quantity above 1 ("1 medium · 118 g × 2"), or a meal's servings ("1 serving of 2").
+    [[nodiscard]] static QString lineDetail(const DiaryEntry &entry);
 
 signals:
     /// Some line's amount, or the set of lines, changed.

@@ -1,11 +1,13 @@
 import QtQuick
 import Nutrika
 
-// The calculator's total, after the lines: "Total" and the amount, bold, on "DetailColor1".
+// The calculator's total, after the lines: "Total" and the amount, bold, on "DetailColor1". The amount is
+// the largest figure on the screen and ends where the lines' amounts end.
 Rectangle {
     id: row
 
     property string amount: ""
+    property real rightInset: 16
 
     objectName: "totalRow"
     implicitHeight: totalAmount.implicitHeight + 32
@@ -28,11 +30,13 @@ Rectangle {
         objectName: "totalAmount"
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        anchors.rightMargin: 16
+        anchors.rightMargin: row.rightInset
         width: Math.min(implicitWidth, 170)
         text: row.amount
         font.bold: true
-        font.pixelSize: Look.bodySize
+        font.pixelSize: Look.figureSize
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: Look.bodySize
         color: Look.titleText
     }
 }

@@ -13,6 +13,9 @@ FocusScope {
     property CarbCounterUIView uiView: CarbCounterUIView {}
     required property NavigationStack navigation
     property var presentationMode: null
+    // Where the amounts end, from the right edge: the remove buttons' column and a gap. The header, every
+    // line and the total share it, so the numbers form one column.
+    readonly property real amountsRightInset: 54
 
     NavigationStack.onActivated: uiView.appear()
     Binding {
@@ -27,64 +30,76 @@ FocusScope {
         backButton: false
         presentationMode: screen.presentationMode
 
-        CalculatorColumnHeader {
-            id: columnHeader
-            width: parent.width
-            counterHeader: screen.uiView.counterHeader
-        }
-
-        // The suggestions hang from this point under the header.
+        // On a wide window the lines keep a reading width, so each amount stays next to its food.
         Item {
-            id: popoverAnchor
-            objectName: "popoverAnchor"
-            visible: screen.uiView.showAccompanimentList
-            y: columnHeader.height
-            width: parent.width
-        }
-
-        ListView {
-            id: lineList
-            objectName: "lineList"
-            y: columnHeader.height
-            width: parent.width
-            height: parent.height - columnHeader.height - searchMore.height - 20
-            clip: true
-            model: screen.uiView.lines
-            boundsBehavior: Flickable.StopAtBounds
-            Accessible.role: Accessible.List
-            Accessible.name: qsTr("Calculator")
-
-            delegate: CalculatorLine {
-                required property int index
-                required title
-                required isFood
-                required amount
-                width: lineList.width
-                onOpened: lineLink.open(index, isFood)
-                onRemoved: screen.uiView.remove(index)
-            }
-
-            footer: CalculatorTotalRow {
-                width: lineList.width
-                amount: screen.uiView.totalText
-            }
-        }
-
-        ActionButton {
-            id: searchMore
-            objectName: "searchMoreButton"
+            anchors.top: parent.top
             anchors.bottom: parent.bottom
-            anchors.left: parent.left
-            anchors.right: parent.right
-            anchors.margins: 10
-            implicitHeight: 60
-            text: qsTr("Search more foods")
-            bold: true
-            pixelSize: Look.titleSize
-            textColor: "white"
-            fillColor: Look.titleText
-            radius: 25
-            onClicked: EnvironmentVariables.searchActive = true
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: Math.min(parent.width, Look.readingWidth)
+
+            CalculatorColumnHeader {
+                id: columnHeader
+                width: parent.width
+                counterHeader: screen.uiView.counterHeader
+                rightInset: screen.amountsRightInset
+            }
+
+            // The suggestions hang from this point under the header.
+            Item {
+                id: popoverAnchor
+                objectName: "popoverAnchor"
+                visible: screen.uiView.showAccompanimentList
+                y: columnHeader.height
+                width: parent.width
+            }
+
+            ListView {
+                id: lineList
+                objectName: "lineList"
+                y: columnHeader.height
+                width: parent.width
+                height: parent.height - columnHeader.height - searchMore.height - 20
+                clip: true
+                model: screen.uiView.lines
+                boundsBehavior: Flickable.StopAtBounds
+                Accessible.role: Accessible.List
+                Accessible.name: qsTr("Calculator")
+
+                delegate: CalculatorLine {
+                    required property int index
+                    required title
+                    required isFood
+                    required amount
+                    required detail
+                    width: lineList.width
+                    amountRightInset: screen.amountsRightInset
+                    onOpened: lineLink.open(index, isFood)
+                    onRemoved: screen.uiView.remove(index)
+                }
+
+                footer: CalculatorTotalRow {
+                    width: lineList.width
+                    amount: screen.uiView.totalText
+                    rightInset: screen.amountsRightInset
+                }
+            }
+
+            ActionButton {
+                id: searchMore
+                objectName: "searchMoreButton"
+                anchors.bottom: parent.bottom
+                anchors.left: parent.left
+                anchors.right: parent.right
+                anchors.margins: 10
+                implicitHeight: 60
+                text: qsTr("Search more foods")
+                bold: true
+                pixelSize: Look.titleSize
+                textColor: "white"
+                fillColor: Look.titleText
+                radius: 25
+                onClicked: EnvironmentVariables.searchActive = true
+            }
         }
     }
 

@@ -133,6 +133,7 @@ FocusScope {
                         color: "white"
                         value: screen.uiView.quantity
                         onValueChanged: screen.uiView.quantity = value
+                        accessibleName: qsTr("Quantity")
                     }
                     Text {
                         objectName: "quantityText"

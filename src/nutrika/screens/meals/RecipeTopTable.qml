@@ -54,7 +54,9 @@ ColumnLayout {
             color: "black"
             background: null
             onTextEdited: table.uiView.recipeName = text
-            Accessible.role: Accessible.EditableText
+            // Outside composing the name is only shown: a screen reader must not offer to edit it.
+            Accessible.role: enabled ? Accessible.EditableText : Accessible.StaticText
+            Accessible.readOnly: !enabled
             Accessible.name: qsTr("Meal name")
         }
     }
@@ -79,7 +81,7 @@ ColumnLayout {
                 color: "white"
                 value: table.uiView.servings
                 onUpdated: v => table.uiView.setServings(v)
-                Accessible.name: qsTr("Servings")
+                accessibleName: qsTr("Servings")
             }
             Text {
                 objectName: "servingsText"

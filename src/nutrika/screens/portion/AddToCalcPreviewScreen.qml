@@ -43,9 +43,13 @@ FocusScope {
         backButton: true
         presentationMode: screen.presentationMode
 
+        // On a wide window the rows keep a reading width, so each number stays next to its label.
         ColumnLayout {
-            anchors.fill: parent
+            anchors.top: parent.top
+            anchors.bottom: parent.bottom
+            anchors.horizontalCenter: parent.horizontalCenter
             anchors.topMargin: 16
+            width: Math.min(parent.width, Look.readingWidth)
             spacing: 12
 
             Text {
@@ -86,11 +90,12 @@ FocusScope {
                     visible: screen.uiView.isLoading && carbs.text === ""
                     size: 24
                 }
+                // The figure a dose is taken from: the largest on the screen.
                 Text {
                     id: carbs
                     objectName: "carbohydratesValue"
                     text: screen.uiView.carbohydratesText
-                    font.pixelSize: Look.bodySize
+                    font.pixelSize: Look.figureSize
                     font.bold: true
                     color: "black"
                 }

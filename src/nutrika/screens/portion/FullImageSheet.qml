@@ -8,13 +8,15 @@ import Nutrika
 // them (ComponentBehavior: Bound needs 6.5), nor Qt.callLater; the engine reads all of these well.
 // qmllint disable
 
-// The enlarged picture of one portion, over the whole screen: its size as the title, a close cross, and
-// the full-size picture (a spinner until it arrives). Each opening asks for the picture anew.
+// The enlarged picture of one portion, over the whole screen: its size as the title with the food's name
+// under it, a close cross, and the full-size picture (a spinner until it arrives). Each opening asks for
+// the picture anew.
 Popup {
     id: sheet
     objectName: "fullImageSheet"
 
     required property var portion
+    property string foodName: ""
     property bool loadsPictures: true
     readonly property bool showFullImage: opened
     readonly property alias picture: picture
@@ -33,22 +35,35 @@ Popup {
     ColumnLayout {
         anchors.fill: parent
         Accessible.role: Accessible.Dialog
-        Accessible.name: title.text
+        Accessible.name: sheet.foodName === "" ? title.text : title.text + ", " + sheet.foodName
 
         RowLayout {
             Layout.fillWidth: true
-            Text {
-                id: title
+            ColumnLayout {
                 Layout.fillWidth: true
-                text: sheet.portion.sizeText()
-                font.pixelSize: Look.titleSize
-                font.bold: true
-                color: Look.titleText
+                spacing: 2
+                Text {
+                    id: title
+                    Layout.fillWidth: true
+                    text: sheet.portion.sizeText()
+                    font.pixelSize: Look.titleSize
+                    font.bold: true
+                    color: Look.titleText
+                }
+                Text {
+                    objectName: "sheetFoodName"
+                    Layout.fillWidth: true
+                    visible: text !== ""
+                    text: sheet.foodName
+                    font.pixelSize: Look.bodySize
+                    color: "black"
+                    wrapMode: Text.Wrap
+                }
             }
             ActionButton {
                 objectName: "closeImageButton"
-                implicitWidth: 32
-                implicitHeight: 32
+                implicitWidth: 44
+                implicitHeight: 44
                 symbol: "xmark"
                 text: qsTr("Close picture")
                 pixelSize: 20

@@ -12,6 +12,8 @@ GridBoxContainer {
     id: box
 
     required property var portion
+    // The food the portion is of, named on the enlarged picture.
+    property string foodName: ""
     property bool isImage: true
     // Sample data shows no pictures: nothing is fetched.
     property bool loadsPictures: true
@@ -81,6 +83,7 @@ GridBoxContainer {
     FullImageSheet {
         id: sheet
         portion: box.portion
+        foodName: box.foodName
         loadsPictures: box.loadsPictures
     }
 }

@@ -73,14 +73,29 @@ FocusScope {
                 textColor: Look.titleText
                 onClicked: if (screen.presentationMode) screen.presentationMode.dismiss()
             }
-            Text {
+            ColumnLayout {
                 Layout.fillWidth: true
-                text: qsTr("Select your portion")
-                font.pixelSize: Look.headlineSize
-                font.bold: true
-                color: Look.titleText
-                Accessible.role: Accessible.Heading
-                Accessible.name: text
+                spacing: 2
+                Text {
+                    Layout.fillWidth: true
+                    text: qsTr("Select your portion")
+                    font.pixelSize: Look.headlineSize
+                    font.bold: true
+                    color: Look.titleText
+                    Accessible.role: Accessible.Heading
+                    Accessible.name: text
+                }
+                // Which food the boxes are portions of: a suggestion opens here with nothing else saying so.
+                Text {
+                    objectName: "foodName"
+                    Layout.fillWidth: true
+                    text: screen.selectedFood.description
+                    font.pixelSize: Look.bodySize
+                    color: "black"
+                    wrapMode: Text.Wrap
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: text
+                }
             }
         }
 
@@ -148,6 +163,7 @@ FocusScope {
                     id: portionBox
                     ItemBox {
                         portion: screen.uiView.portionOptions[cell.index - 1]
+                        foodName: screen.selectedFood.description
                         isImage: screen.uiView.tabOption === 0
                         loadsPictures: screen.uiView.preview === Preview.NotPreview
                         boxSize: screen.boxSize
