@@ -82,6 +82,7 @@ ScreenTestCase {
         compare(grid.currentIndex, index)
         keyClick(Qt.Key_Space)
         compare(portions.uiView.selectedPortionId, mediumBanana)
+        verify(portionBox(portions, mediumBanana).current)
         keyClick(Qt.Key_Return)
 
         // 4. The preview shows what the service gives for 118 g. "Search more foods" returns to the
@@ -104,6 +105,9 @@ ScreenTestCase {
         const medium = portionBox(portions, mediumBanana)
         mouseClick(medium)
         verify(medium.selected)
+        // Marked as chosen, and no keyboard ring left on another box.
+        verify(findChild(medium, "selectedMark").visible)
+        verify(!portionBox(portions, -1).current)
         shoot(portions, "portion-banana")
         mouseClick(findChild(portions, "selectPortionButton"))
         preview = settle(root.navigation, 4)
@@ -179,5 +183,48 @@ ScreenTestCase {
         root = createTemporaryObject(rootComponent, testCase)
         settle(root.navigation, 1)
         compare(lineAmounts(root), [grams(fifty), grams(extra)])
+    }
+
+    // On a desktop window the boxes stop growing, so several rows show; the other tab keeps the chosen
+    // box in view.
+    function test_aWideWindowShowsSeveralRowsAndKeepsTheChoiceInView() {
+        const window = testCase.Window.window
+        const narrow = [window.width, window.height]
+        window.width = 1000
+        window.height = 900
+        try {
+            pickOnAWideWindow()
+        } finally {
+            [window.width, window.height] = narrow
+        }
+    }
+
+    function pickOnAWideWindow() {
+        const root = createTemporaryObject(wideComponent, testCase)
+        tapFood(settle(root.navigation, 2), "Bananas, raw", "banana")
+        const portions = settle(root.navigation, 3)
+        const grid = findChild(portions, "portionGrid")
+        const medium = portionBox(portions, mediumBanana)
+        verify(medium.width <= 216) // a 200-pixel thumbnail and its frame
+        verify(grid.height / grid.cellHeight >= 2.5)
+        root.height = 700 // the last row of boxes below the fold
+        grid.positionViewAtEnd()
+        mouseClick(portionBox(portions, mediumBanana))
+        compare(portions.uiView.selectedPortionId, mediumBanana)
+        portions.uiView.tabOption = 1
+        const inView = () => {
+            const box = portionBox(portions, mediumBanana)
+            const top = box.mapToItem(grid, 0, 0).y
+            return top >= 0 && top + box.height <= grid.height
+        }
+        grid.contentY = 0
+        portions.uiView.tabOption = 0
+        tryVerify(inView)
+        shoot(portions, "portion-wide-images")
+    }
+
+    Component {
+        id: wideComponent
+        NutrikaRoot { width: 1000; height: 900 }
     }
 }

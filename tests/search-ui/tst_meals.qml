@@ -103,6 +103,16 @@ ScreenTestCase {
         mouseClick(findChild(container, "createMealButton"))
         editor = settle(root.navigation, 3)
         type(findChild(editor, "nameField"), "Tea")
+        // Without ingredients the meal says how to add them, and cannot be saved yet.
+        verify(findChild(editor, "noIngredients").visible)
+        verify(!findChild(editor, "saveMealButton").enabled)
+        mouseClick(findChild(editor, "saveMealButton"))
+        compare(savedNames(), ["Porridge#0"])
+        shoot(editor, "meal-new-empty")
+        addIngredient(root, editor, "banana", "Bananas, raw",
+                      portions => mouseClick(portionBox(portions, mediumBanana)), 1)
+        editor = settle(root.navigation, 3)
+        verify(!findChild(editor, "noIngredients").visible)
         mouseClick(findChild(editor, "saveMealButton"))
         mouseClick(findChild(findChild(editor, "titleBar"), "backButton"))
         container = settle(root.navigation, 2)

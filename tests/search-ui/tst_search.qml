@@ -38,10 +38,13 @@ ScreenTestCase {
     function test_1_typingShowsTheCountAndBothSections() {
         verify(ServiceProbe.ready)
         const container = openSearch()
+        // Before anything is typed, the screen says what to type.
+        verify(findChild(container, "searchHint").visible)
         shoot(container, "search-filters-disabled")
         searchFor(container, "banana")
         const count = findChild(container, "countLine")
         tryVerify(() => count.visible && count.text.endsWith("items matching your search"), 5000)
+        verify(!findChild(container, "searchHint").visible)
         const list = findChild(container, "results")
         tryVerify(() => foodRows(list) > 0, 5000)
         compare(pinnedHeader(list).shownTitle, "Non-Branded")

@@ -196,6 +196,23 @@ FocusScope {
                 Accessible.role: Accessible.List
                 Accessible.name: qsTr("Ingredients")
 
+                // An empty meal says how it gets its ingredients, rather than showing a bare total.
+                header: Text {
+                    objectName: "noIngredients"
+                    width: ingredientList.width
+                    visible: ingredientList.count === 0
+                    height: visible ? implicitHeight : 0
+                    padding: 16
+                    text: screen.uiView.composing
+                          ? qsTr("No ingredients yet. Use \u201cAdd Ingredients\u201d to add the foods of this meal.")
+                          : qsTr("This meal has no ingredients.")
+                    font.pixelSize: Look.bodySize
+                    color: "black"
+                    wrapMode: Text.Wrap
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: text
+                }
+
                 delegate: IngredientRow {
                     required property int index
                     required property var modelData
@@ -265,6 +282,8 @@ FocusScope {
                 BottomButton {
                     objectName: "saveMealButton"
                     visible: screen.uiView.actions === CreateRecipeUIView.Compose
+                    // A meal without a name or without ingredients would be saved as nothing to count.
+                    enabled: screen.uiView.recipeName.trim() !== "" && screen.uiView.ingredients.length > 0
                     text: qsTr("Save Meal")
                     onClicked: screen.uiView.saveMeal()
                 }

@@ -1,7 +1,8 @@
 import QtQuick
 import Nutrika
 
-// The frame of every box of the portion grid: a rounded panel, dark when selected, with a thin border.
+// The frame of every box of the portion grid: a rounded panel, dark and marked when selected, with a
+// thin border.
 // `boxSize` square, or half as high.
 Item {
     id: box
@@ -33,5 +34,24 @@ Item {
         id: inner
         anchors.fill: parent
         anchors.margins: 8
+    }
+    // A mark, not only a darker panel, says which box is chosen.
+    Rectangle {
+        objectName: "selectedMark"
+        visible: box.selected
+        anchors.top: parent.top
+        anchors.right: parent.right
+        anchors.margins: -6
+        width: 28
+        height: 28
+        radius: 14
+        color: "white"
+        Text {
+            anchors.centerIn: parent
+            text: Look.symbol("checkmark.circle.fill")
+            font.family: Look.symbolFont
+            font.pixelSize: 28
+            color: "#1b7f3b"
+        }
     }
 }

@@ -31,7 +31,10 @@ void PortionPicture::paint(QPainter *painter)
     if (m_image.isNull())
         return;
     // Fitted, not stretched: a portion drawn out of proportion would mislead about its size.
-    const QSizeF fitted = QSizeF(m_image.size()).scaled(size(), Qt::KeepAspectRatio);
+    QSizeF fitted = QSizeF(m_image.size()).scaled(size(), Qt::KeepAspectRatio);
+    // A thumbnail enlarged past its pixels turns soft; the full-size picture is there for a closer look.
+    if (!m_fullSize)
+        fitted = fitted.boundedTo(m_image.deviceIndependentSize());
     const QRectF target(QPointF((width() - fitted.width()) / 2, (height() - fitted.height()) / 2), fitted);
     painter->setRenderHint(QPainter::SmoothPixmapTransform);
     painter->drawImage(target, m_image);

@@ -17,15 +17,30 @@ FocusScope {
     property alias selectedFood: portionState.selectedFood
     // Given by an opener that takes the portion back (a function of one PortionItem), else null.
     property var onCompleteCallback: null
-    readonly property real boxSize: width / 2 - 20
+    // Two columns whatever the width: on a wide window the boxes stop growing past their 200-pixel
+    // thumbnails and a frame, so several rows stay in view.
+    readonly property real boxSize: Math.min(width / 2 - 20, 216)
+    // The keyboard's ring shows while the keyboard moves in the grid; a tap elsewhere hides it, so that
+    // it never marks a box other than the chosen one for a mouse or touch user.
+    property bool keyboardInGrid: true
 
     Component.onCompleted: uiView.hasCompleteCallback = onCompleteCallback !== null
     // The portions are asked for as the screen starts to show, not after its transition.
     NavigationStack.onActivating: uiView.appear()
     NavigationStack.onActivated: grid.forceActiveFocus()
 
+    // The other tab lists the same portions in another form: the chosen one stays in view.
+    function showChosenBox() {
+        if (!uiView.hasSelectedPortion)
+            return
+        const index = uiView.portionOptions.findIndex(portion => portion._id === uiView.selectedPortionId)
+        if (index >= 0 || uiView.selectedPortionId === -1)
+            grid.positionViewAtIndex(index + 1, GridView.Contain)
+    }
+
     Connections {
         target: screen.uiView
+        function onPortionsChanged() { Qt.callLater(screen.showChosenBox) }
         function onCompleted(portion) {
             screen.onCompleteCallback(portion)
             if (screen.presentationMode)
@@ -36,6 +51,7 @@ FocusScope {
     // Selects the box at a grid index; the custom box also takes the typing. A tap leaves the keyboard's
     // current box alone: moving it would scroll the grid between the two taps of a double tap.
     function choose(index, fromKeyboard) {
+        keyboardInGrid = fromKeyboard
         if (fromKeyboard)
             grid.currentIndex = index
         if (index > 0) {
@@ -123,9 +139,9 @@ FocusScope {
         GridView {
             id: grid
             objectName: "portionGrid"
-            Layout.fillWidth: true
+            Layout.preferredWidth: Math.min(screen.width - 10, 2 * screen.boxSize + 40)
+            Layout.alignment: Qt.AlignHCenter
             Layout.fillHeight: true
-            Layout.leftMargin: 10
             clip: true
             cellWidth: width / 2
             cellHeight: (screen.uiView.tabOption === 0 ? screen.boxSize : screen.boxSize / 2) + 16
@@ -138,6 +154,10 @@ FocusScope {
             Accessible.role: Accessible.List
             Accessible.name: qsTr("Portions")
 
+            Keys.onPressed: event => {
+                screen.keyboardInGrid = true
+                event.accepted = false
+            }
             Keys.onSpacePressed: screen.choose(currentIndex, true)
             Keys.onReturnPressed: screen.chooseAndGoOn()
             Keys.onEnterPressed: screen.chooseAndGoOn()
@@ -154,8 +174,11 @@ FocusScope {
                         uiView: screen.uiView
                         boxSize: screen.boxSize
                         halfSize: screen.uiView.tabOption !== 0
-                        current: grid.activeFocus && grid.currentIndex === 0
-                        onTapped: screen.uiView.selectCustom()
+                        current: screen.keyboardInGrid && grid.activeFocus && grid.currentIndex === 0
+                        onTapped: {
+                            screen.keyboardInGrid = false
+                            screen.uiView.selectCustom()
+                        }
                         onSubmitted: screen.uiView.selectPortion()
                     }
                 }
@@ -168,7 +191,7 @@ FocusScope {
                         loadsPictures: screen.uiView.preview === Preview.NotPreview
                         boxSize: screen.boxSize
                         selected: screen.uiView.hasSelectedPortion && screen.uiView.selectedPortionId === portion._id
-                        current: grid.activeFocus && grid.currentIndex === cell.index
+                        current: screen.keyboardInGrid && grid.activeFocus && grid.currentIndex === cell.index
                         onTapped: screen.choose(cell.index, false)
                     }
                 }

@@ -15,7 +15,7 @@ namespace nutrika {
 
 /// State and operations of the portion selection screen: the food's pictured and described portions,
 /// the selected box, the custom amount in grams and "Select Portion". Its look is SelectPortionScreen.qml,
-/// whose grid shows the custom box first and then `portionOptions`, two to a row.
+/// whose grid shows the custom box first and then `portionOptions`, two or more to a row.
 class SelectPortionUIView : public QObject
 {
     Q_OBJECT

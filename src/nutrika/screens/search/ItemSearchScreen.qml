@@ -78,6 +78,20 @@ FocusScope {
             Accessible.name: text
         }
 
+        // Before anything is typed the results hold only their two headers: say what to do.
+        Text {
+            objectName: "searchHint"
+            Layout.fillWidth: true
+            Layout.margins: 10
+            visible: screen.uiView.debouncedText === ""
+            text: qsTr("Type the name of a food to search, for example \u201cbanana\u201d or \u201crice\u201d.")
+            font.pixelSize: Look.bodySize
+            color: "black"
+            wrapMode: Text.Wrap
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+        }
+
         Text {
             objectName: "filterResetHint"
             Layout.fillWidth: true
