@@ -92,6 +92,10 @@ ScreenTestCase {
             entry.quantity = 2 // the samples are shared by every test
         }
 
+        // A screen reader reads the items in stacking order: the lines, then their total.
+        const stacked = list.contentItem.children
+        tryCompare(stacked, stacked.length - 1 + "", list.footerItem)
+
         const total = findChild(root, "totalAmount")
         verify(total.font.pixelSize > largestOtherText(root.navigation.get(0), total))
         const rightEdge = item => item.mapToItem(root, item.width, 0).x

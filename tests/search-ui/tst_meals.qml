@@ -84,6 +84,12 @@ ScreenTestCase {
         for (let i = 1; i < 4; ++i)
             mouseClick(findChild(servings, "plusButton"))
         compare(findChild(editor, "totalWeight").text, "198 g")
+        // The weights end in one column, and each stepper is named for what it counts.
+        const rightEdge = item => item.mapToItem(editor, item.width, 0).x
+        const firstRow = findChild(editor, "ingredientList").itemAtIndex(0)
+        compare(rightEdge(findChild(firstRow, "ingredientWeight")), rightEdge(findChild(editor, "totalWeight")))
+        compare(findChild(servings, "numberField").Accessible.name, "Servings")
+        compare(findChild(servings, "plusButton").Accessible.name, "Increase Servings")
         compare(findChild(editor, "onePortion").text, "50 g") // 49.5 rounds up
         shoot(editor, "meal-new-filled")
 

@@ -34,7 +34,9 @@ Item {
         text: header.counterHeader
         font.bold: true
         font.pixelSize: Look.bodySize
-        wrapMode: Text.WordWrap
+        // One line over the amounts' column: a little smaller rather than broken in two.
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: Look.captionSize
         Accessible.role: Accessible.ColumnHeader
         Accessible.name: text
     }

@@ -18,6 +18,10 @@ FocusScope {
     readonly property real amountsRightInset: 54
 
     NavigationStack.onActivated: uiView.appear()
+
+    // The total is built before the lines, and a line coming into view is built after it; a screen
+    // reader must come to the total after the lines it adds up.
+    function totalAfterLines() { ReadingOrder.readLast(lineList.footerItem) }
     Binding {
         target: screen.uiView
         property: "inFront"
@@ -73,6 +77,7 @@ FocusScope {
                     required detail
                     width: lineList.width
                     amountRightInset: screen.amountsRightInset
+                    Component.onCompleted: Qt.callLater(screen.totalAfterLines)
                     onOpened: lineLink.open(index, isFood)
                     onRemoved: screen.uiView.remove(index)
                 }

@@ -241,6 +241,7 @@ FocusScope {
                             id: totalLayout
                             anchors.fill: parent
                             anchors.margins: 10
+                            spacing: 8
                             Text {
                                 Layout.fillWidth: true
                                 text: qsTr("Total")
@@ -255,6 +256,11 @@ FocusScope {
                                 font.bold: true
                                 font.pixelSize: Look.bodySize
                                 color: "black"
+                            }
+                            // The ingredients' remove column, so that the weights end in one column.
+                            Item {
+                                visible: screen.uiView.removable
+                                Layout.preferredWidth: 44
                             }
                         }
                         EdgeBorder {

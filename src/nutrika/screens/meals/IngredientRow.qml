@@ -46,8 +46,9 @@ Rectangle {
         ActionButton {
             objectName: "removeIngredientButton"
             visible: row.removable
-            Layout.preferredWidth: 25
-            Layout.preferredHeight: 25
+            // A finger-sized target around the 25-point cross; the total row keeps the same column.
+            Layout.preferredWidth: 44
+            Layout.preferredHeight: 44
             symbol: "xmark.circle"
             text: qsTr("Remove %1").arg(row.label.split("\n")[0])
             textColor: "#c40000"
