@@ -48,6 +48,12 @@ ScreenTestCase {
         const list = findChild(container, "results")
         tryVerify(() => foodRows(list) > 0, 5000)
         compare(pinnedHeader(list).shownTitle, "Non-Branded")
+        // A screen reader meets the rows as they are seen, each after its own section's header.
+        tryVerify(() => {
+            const shown = Array.from(list.contentItem.children)
+                .filter(item => item.visible && item.height > 0 && item.title !== undefined)
+            return shown.every((item, i) => i === 0 || shown[i - 1].y <= item.y)
+        })
         // A pause between keys on a slow machine settles a shorter text first; its rows stay until
         // the reply for "banana" replaces them.
         tryVerify(() => list.itemAtIndex(0) && list.itemAtIndex(0).title === "Bananas, raw", 5000)

@@ -18,8 +18,9 @@ class ReadingOrder : public QObject
 public:
     using QObject::QObject;
 
-    /// Moves `item` after all of its siblings, so that it is read last.
-    Q_INVOKABLE static void readLast(QQuickItem *item);
+    /// Restacks the children of `container` from top to bottom, left to right as they are placed, so
+    /// that they are read in the order they are seen. Their painting is unchanged where they do not overlap.
+    Q_INVOKABLE static void readTopToBottom(QQuickItem *container);
 };
 
 } // namespace nutrika

@@ -21,7 +21,7 @@ FocusScope {
 
     // The total is built before the lines, and a line coming into view is built after it; a screen
     // reader must come to the total after the lines it adds up.
-    function totalAfterLines() { ReadingOrder.readLast(lineList.footerItem) }
+    function readLinesInOrder() { ReadingOrder.readTopToBottom(lineList.contentItem) }
     Binding {
         target: screen.uiView
         property: "inFront"
@@ -77,7 +77,7 @@ FocusScope {
                     required detail
                     width: lineList.width
                     amountRightInset: screen.amountsRightInset
-                    Component.onCompleted: Qt.callLater(screen.totalAfterLines)
+                    Component.onCompleted: Qt.callLater(screen.readLinesInOrder)
                     onOpened: lineLink.open(index, isFood)
                     onRemoved: screen.uiView.remove(index)
                 }

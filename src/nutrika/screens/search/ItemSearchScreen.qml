@@ -12,6 +12,10 @@ FocusScope {
     property ItemSearchUIView uiView: ItemSearchUIView {}
     required property NavigationStack navigation
 
+    // Rows and section headers are built as they come into view, in no particular order; a screen
+    // reader must meet each row after its own section's header.
+    function readResultsInOrder() { ReadingOrder.readTopToBottom(results.contentItem) }
+
     ColumnLayout {
         anchors.fill: parent
         spacing: 0
@@ -119,6 +123,8 @@ FocusScope {
             cacheBuffer: 0
             Accessible.role: Accessible.List
             Accessible.name: qsTr("Search results")
+            // Rows move when those above them change height: keep the reading order with them.
+            onContentHeightChanged: Qt.callLater(screen.readResultsInOrder)
 
             // Qt 6.4 cannot create every component bound to its file (ComponentBehavior: Bound), so the
             // components below reach ids outside them, which the linter counts as unqualified access.
@@ -130,7 +136,9 @@ FocusScope {
 
             section.delegate: ListHeader {
                 required property string section
+                Component.onCompleted: Qt.callLater(screen.readResultsInOrder)
                 objectName: "sectionHeader"
+                z: 2 // over the rows that scroll under it, whatever its place in the reading order
                 width: results.width
                 title: section
             }
@@ -149,7 +157,11 @@ FocusScope {
                 // Rows of the search before stay in view, dimmed, until the new reply replaces them.
                 opacity: screen.uiView.resultsStale ? Look.staleOpacity : 1
                 // A food row coming into view may be the last one: the view state decides whether to page.
-                Component.onCompleted: if (!isPlaceholder) screen.uiView.rowAppeared(branded, indexInSection)
+                Component.onCompleted: {
+                    Qt.callLater(screen.readResultsInOrder)
+                    if (!isPlaceholder)
+                        screen.uiView.rowAppeared(branded, indexInSection)
+                }
                 onOpened: screen.uiView.selectRow(index)
             }
             // qmllint enable unqualified
