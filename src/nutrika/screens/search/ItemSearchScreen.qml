@@ -123,8 +123,11 @@ FocusScope {
             cacheBuffer: 0
             Accessible.role: Accessible.List
             Accessible.name: qsTr("Search results")
-            // Rows move when those above them change height: keep the reading order with them.
+            // Rows move when those above them change height: keep the reading order with them. Qt 6.4's
+            // linter cannot tell that Qt.callLater is a function.
+            // qmllint disable type
             onContentHeightChanged: Qt.callLater(screen.readResultsInOrder)
+            // qmllint enable type
 
             // Qt 6.4 cannot create every component bound to its file (ComponentBehavior: Bound), so the
             // components below reach ids outside them, which the linter counts as unqualified access.
