@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -64,7 +65,12 @@ std::variant<DemoOptions, int> parseDemoOptions(const QStringList &arguments)
     const QCommandLineOption apiKey(u"api-key"_s, u"Send <KEY> as the service's API key."_s, u"KEY"_s);
     const QCommandLineOption caCert(
         u"ca-cert"_s, u"Trust the certificate authorities in the PEM <FILE> as well."_s, u"FILE"_s);
-    parser.addOptions({preview, screenshot, origin, apiKey, caCert});
+    const QCommandLineOption size(
+        u"size"_s,
+        u"Draw a preview or a picture in a window of <WxH> pixels, such as 1000x900 "
+        u"(430x860 unless given)."_s,
+        u"WxH"_s);
+    parser.addOptions({preview, screenshot, origin, apiKey, caCert, size});
     if (!parser.parse(arguments))
         return usageError(parser.errorText());
     if (parser.isSet(help)) {
@@ -94,6 +100,15 @@ std::variant<DemoOptions, int> parseDemoOptions(const QStringList &arguments)
         if (certificates.isEmpty())
             return usageError(u"--ca-cert: \"%1\" holds no PEM certificate"_s.arg(file));
         options.caCertificates += certificates;
+    }
+    if (parser.isSet(size)) {
+        static const QRegularExpression pattern(u"^(\\d{3,4})x(\\d{3,4})$"_s);
+        const QRegularExpressionMatch match = pattern.match(parser.value(size));
+        if (!match.hasMatch())
+            return usageError(
+                u"--size needs a width and a height in pixels such as 1000x900, not \"%1\""_s.arg(
+                    parser.value(size)));
+        options.windowSize = QSize(match.captured(1).toInt(), match.captured(2).toInt());
     }
     return options;
 }

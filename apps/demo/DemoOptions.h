@@ -3,6 +3,7 @@
 #include <memory>
 #include <QCoreApplication>
 #include <QList>
+#include <QSize>
 #include <QSslCertificate>
 #include <QString>
 #include <QUrl>
@@ -21,6 +22,8 @@ struct DemoOptions
     QString apiKey;
     /// Authorities to trust besides the system's.
     QList<QSslCertificate> caCertificates;
+    /// The window of a preview or a picture: a phone's unless asked otherwise.
+    QSize windowSize{430, 860};
 };
 
 /// The application the arguments need, made before they are parsed, so that help needs no display and a

@@ -16,13 +16,12 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// A phone-sized window for pictures and previews.
-constexpr QSize previewSize(430, 860);
-
 // Each previewable screen, drawn over its sample data the way a QML host embeds the module.
 const QMap<QString, QByteArray> previews = {
     {u"calculator"_s,
      "import Nutrika\nNutrikaRoot { calculator: CarbCounterUIView { preview: Preview.Main } }\n"},
+    {u"calculator-long"_s,
+     "import Nutrika\nNutrikaRoot { calculator: CarbCounterUIView { preview: Preview.LongLines } }\n"},
     {u"portion"_s, "import Nutrika\nNavigationStack { id: s; initialItem: "
                    "SelectPortionScreen { navigation: s; uiView.preview: Preview.Images } }\n"},
     {u"portion-descriptions"_s,
@@ -66,7 +65,7 @@ QString setting(const char *variable, const QString &builtIn)
 }
 
 // A QML host: the preview is the module's root item in a plain Qt Quick window.
-int showPreview(const QString &screen, const QString &screenshot)
+int showPreview(const QString &screen, const QString &screenshot, QSize windowSize)
 {
     if (!previews.contains(screen))
         return fail(
@@ -81,7 +80,7 @@ int showPreview(const QString &screen, const QString &screenshot)
     if (!root)
         return fail(component.errorString());
     view.setContent(QUrl(u"preview.qml"_s), &component, root);
-    view.resize(previewSize);
+    view.resize(windowSize);
     view.show();
     if (!screenshot.isEmpty())
         saveScreenshotAndQuit(&view, screenshot);
@@ -117,7 +116,7 @@ int runHost(DemoOptions options)
     if (!options.screenshot.isEmpty()) {
         QWidget *module = nutrika::initNutrika(options.apiKey, [] {});
         module->setWindowState(Qt::WindowNoState);
-        module->resize(previewSize);
+        module->resize(options.windowSize);
         module->show();
         saveScreenshotAndQuit(module, options.screenshot);
         return QApplication::exec();
@@ -152,6 +151,6 @@ int main(int argc, char *argv[])
         return *status;
     DemoOptions &options = std::get<DemoOptions>(parsed);
     if (!options.preview.isEmpty())
-        return showPreview(options.preview, options.screenshot);
+        return showPreview(options.preview, options.screenshot, options.windowSize);
     return runHost(std::move(options));
 }

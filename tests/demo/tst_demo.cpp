@@ -96,6 +96,7 @@ private slots:
         QTest::newRow("empty key") << QStringList{u"--api-key="_s} << u"--api-key needs a key"_s;
         QTest::newRow("not PEM") << QStringList{u"--ca-cert"_s, demo} << u"holds no PEM certificate"_s;
         QTest::newRow("unknown option") << QStringList{u"--origin"_s} << u"Unknown option 'origin'"_s;
+        QTest::newRow("size without a height") << QStringList{u"--size"_s, u"1000"_s} << u"--size needs"_s;
         QTest::newRow("unknown preview") << QStringList{u"--preview"_s, u"nothing"_s} << u"no preview of"_s;
     }
 

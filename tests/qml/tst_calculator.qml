@@ -7,6 +7,11 @@ ScreenTestCase {
     name: "Calculator"
 
     Component {
+        id: longLinesComponent
+        NutrikaRoot { anchors.fill: parent; calculator: CarbCounterUIView { preview: Preview.LongLines } }
+    }
+
+    Component {
         id: wideComponent
         NutrikaRoot { width: 1000; height: 900 }
     }
@@ -109,5 +114,16 @@ ScreenTestCase {
         compare(rightEdge(findChild(wideList.itemAtIndex(1), "lineAmount")), rightEdge(wideTotal))
         verify(rightEdge(wideTotal) < 1000 - 180) // in sight of the food names on a wide window
         shoot(wide, "calculator-wide")
+    }
+
+    // A long name wraps beside its amount rather than running under it, and a large quantity is said.
+    function test_aLongLineWrapsBesideItsAmount() {
+        const root = createTemporaryObject(longLinesComponent, testCase)
+        compare(lineDetails(root), ["1 cup (1 NLEA serving) · 28 g × 12", "1 serving of 2"])
+        const line = findChild(root, "lineList").itemAtIndex(0)
+        const title = findChild(line, "lineTitle")
+        verify(title.lineCount > 1)
+        verify(title.mapToItem(line, title.width, 0).x <= findChild(line, "lineAmount").x)
+        shoot(root, "calculator-long-lines")
     }
 }

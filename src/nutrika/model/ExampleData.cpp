@@ -90,6 +90,16 @@ DiaryEntryPtr exampleTrackedNutrient2()
     return entry;
 }
 
+DiaryEntryPtr exampleLongLine()
+{
+    static const auto entry = DiaryEntryPtr::create(
+        5, samplePortion(6, 28, "", "1 cup (1 NLEA serving)"),
+        sampleFood(
+            "Cereals ready-to-eat, wholegrain oat clusters with almonds, raisins and honey, fortified"),
+        12, QList{exampleNutrientFat()}, exampleNutrientCarb());
+    return entry;
+}
+
 const QList<DiaryEntryPtr> &exampleCarbList()
 {
     static const QList<DiaryEntryPtr> list{exampleTrackedNutrient1(), exampleTrackedNutrient2()};

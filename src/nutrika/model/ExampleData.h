@@ -26,6 +26,8 @@ namespace nutrika::example {
 
 [[nodiscard]] DiaryEntryPtr exampleTrackedNutrient1();
 [[nodiscard]] DiaryEntryPtr exampleTrackedNutrient2();
+/// A food with a long name, in a described portion, twelve times.
+[[nodiscard]] DiaryEntryPtr exampleLongLine();
 [[nodiscard]] const QList<DiaryEntryPtr> &exampleCarbList();
 [[nodiscard]] const RecipeItem &exampleRecipe();
 [[nodiscard]] const RecipeItem &exampleRecipe2();

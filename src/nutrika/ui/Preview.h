@@ -12,6 +12,8 @@ QML_ELEMENT
 enum Value
 {
     Main,
+    /// The calculator with a long food name, a large quantity and a meal: lines at their fullest.
+    LongLines,
     ShowPicker,
     Recipes,
     Images,

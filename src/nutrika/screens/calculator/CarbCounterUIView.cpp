@@ -85,7 +85,9 @@ void CarbCounterUIView::appear()
         if (self)
             emit self->dismissPresentation();
     });
-    if (m_preview != Preview::NotPreview) {
+    if (m_preview == Preview::LongLines) {
+        env->setTrackedNutrientListItems({example::exampleLongLine(), example::exampleDiaryRecipeItem2()});
+    } else if (m_preview != Preview::NotPreview) {
         env->setTrackedNutrientListItems(
             {example::exampleTrackedNutrient1(), example::exampleTrackedNutrient2(),
              example::exampleDiaryRecipeItem1(), example::exampleDiaryRecipeItem2()});

@@ -83,8 +83,12 @@ FocusScope {
         backButton: true
         presentationMode: screen.presentationMode
 
+        // On a wide window the rows keep a reading width, so each value stays next to its label.
         ColumnLayout {
-            anchors.fill: parent
+            anchors.top: parent.top
+            anchors.bottom: parent.bottom
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: Math.min(parent.width, Look.readingWidth)
             spacing: 0
 
             ActionButton {

@@ -47,6 +47,7 @@ ColumnLayout {
             Layout.fillHeight: true
             Layout.leftMargin: 10
             Layout.rightMargin: 10
+            leftPadding: 0 // the name starts where the other rows' values start
             enabled: table.uiView.composing
             text: table.uiView.recipeName
             placeholderText: qsTr("Meal Name")
