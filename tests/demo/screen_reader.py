@@ -12,6 +12,7 @@ usage: screen_reader.py DEMO            the walk; exit status 0 when the demo ne
 """
 
 import ctypes
+import fnmatch
 import os
 import shutil
 import signal
@@ -119,10 +120,10 @@ class Session:
 
 
 def matches(actual, wanted):
-    """A name that ends in "*" is a prefix; one that starts with "!" matches any other name."""
+    """A "*" in a name stands for any text; a name that starts with "!" matches any other name."""
     if wanted.startswith("!"):
         return not matches(actual, wanted[1:])
-    return actual.startswith(wanted[:-1]) if wanted.endswith("*") else actual == wanted
+    return fnmatch.fnmatchcase(actual, wanted)
 
 
 class Reader:
@@ -256,17 +257,23 @@ PREVIEW = PORTIONS + [("press", "radio button", "!Custom amount*", ("list", "Por
 SUGGESTIONS = PREVIEW + [("press", "push button", "Add to calculator")]
 HOST, SEARCH = ("push button", "Open carb calculator"), ("entry", "Search")
 CALCULATOR = ("push button", "Search more foods")
+# A calculator line read with what it counts: its food, its portion and weight, and its carbohydrates.
+COUNTED_LINE = ("push button", "Apple*, * · * g*, * g")
 # Each screen: the way there, what shows on it, and each way out it offers with the buttons pressed
-# after it, and where that lands. Adding a food comes last: the calculator keeps it.
+# after it, and where that lands (with what shows there). Adding a food comes last: the calculator
+# keeps it.
 ROUTES = [
-    ("search", [], SEARCH, [("Back", [], SEARCH), ("Close", [], HOST)]),
-    ("meals", MEALS, ("page tab", "Meals"), [("Back", [], SEARCH), ("Close", [], HOST)]),
-    ("meal editor", MEAL_EDITOR, ("push button", "Save Meal"),
-     [("Back", ["Close"], HOST), ("Close", [], HOST)]),
-    ("portions", PORTIONS, ("list", "Portions"), [("Back", [], SEARCH)]),
-    ("preview", PREVIEW, ("push button", "Add to calculator"),
-     [("Back", ["Back", "Close"], HOST), ("Close", [], HOST)]),
-    ("suggestions", SUGGESTIONS, ("push button", "No Thanks"), [("No Thanks", [], CALCULATOR)]),
+    ("search", [], [SEARCH, ("label", "Type the name of a food*")],
+     [("Back", [], [SEARCH]), ("Close", [], [HOST])]),
+    ("meals", MEALS, [("page tab", "Meals")], [("Back", [], [SEARCH]), ("Close", [], [HOST])]),
+    ("meal editor", MEAL_EDITOR, [("push button", "Save Meal"), ("entry", "Servings"),
+                                  ("push button", "Increase Servings"), ("label", "No ingredients yet*")],
+     [("Back", ["Close"], [HOST]), ("Close", [], [HOST])]),
+    ("portions", PORTIONS, [("list", "Portions"), ("label", "Apple*")], [("Back", [], [SEARCH])]),
+    ("preview", PREVIEW, [("push button", "Add to calculator"), ("entry", "Quantity")],
+     [("Back", ["Back", "Close"], [HOST]), ("Close", [], [HOST])]),
+    ("suggestions", SUGGESTIONS, [("push button", "No Thanks")],
+     [("No Thanks", [], [CALCULATOR, COUNTED_LINE])]),
 ]
 
 
@@ -279,11 +286,13 @@ def walk(demo):
                 demo.press(*HOST)
             for kind, *step in way:
                 getattr(demo, kind)(*step)
-            demo.control(*shown)
+            for control in shown:
+                demo.control(*control)
             for button in [exit] + then:
                 demo.press("push button", button, leaves=True)
-            demo.control(*lands)
-            at = lands
+            for control in lands:
+                demo.control(*control)
+            at = lands[0]
             demo.reader.pump(1.0)  # the screens that went are deleted by the event loop
 
 
