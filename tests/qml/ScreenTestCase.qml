@@ -69,6 +69,22 @@ TestCase {
         return largest
     }
 
+    // The names of the visible buttons under `item` smaller than a finger: 44 × 44.
+    function smallTargets(item) {
+        const small = []
+        const visit = node => {
+            if (!node.visible)
+                return
+            const isButton = node.symbol !== undefined && node.fillColor !== undefined
+            if (isButton && (node.width < 44 || node.height < 44))
+                small.push(node.text + " " + node.width + "x" + node.height)
+            for (let i = 0; i < node.children.length; ++i)
+                visit(node.children[i])
+        }
+        visit(item)
+        return small
+    }
+
     // Taps the result titled `title`, after typing `query` when given. The service's description may go
     // on in parentheses ("... water (includes boiling ...").
     function tapFood(screen, title, query) {

@@ -87,6 +87,7 @@ ScreenTestCase {
         SessionProbe.addExampleLines()
         const root = createTemporaryObject(rootComponent, testCase)
         compare(lineDetails(root), ["23 g × 2", "1 serving of 2"])
+        compare(smallTargets(root), [])
         const list = findChild(root, "lineList")
         compare(list.itemAtIndex(1).Accessible.name, "Half A Burger, 1 serving of 2, 19.4 g")
         const entry = root.calculator.line(0)

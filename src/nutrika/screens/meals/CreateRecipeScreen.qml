@@ -96,7 +96,7 @@ FocusScope {
                 visible: screen.uiView.headerLinkText !== ""
                 Layout.alignment: Qt.AlignRight
                 Layout.rightMargin: 16
-                Layout.preferredHeight: 40
+                Layout.preferredHeight: 44
                 Layout.preferredWidth: contentItem.implicitWidth + 20
                 text: screen.uiView.headerLinkText
                 onClicked: screen.uiView.toggleMode()

@@ -31,7 +31,7 @@ ColumnLayout {
             readonly property bool editing: table.uiView.mode === AddToCalcPreviewUIView.Edit
             objectName: "portionLink"
             Layout.preferredWidth: contentItem.implicitWidth + 20
-            Layout.preferredHeight: 40
+            Layout.preferredHeight: 44
             enabled: editing
             text: table.uiView.portionText
             textColor: editing ? "#0a5fd1" : "black"

@@ -91,7 +91,7 @@ Rectangle {
                     anchors.rightMargin: 16
                     anchors.verticalCenter: parent.verticalCenter
                     implicitWidth: 60
-                    implicitHeight: 40
+                    implicitHeight: 44
                     text: qsTr("Done")
                     bold: true
                     textColor: Look.titleText
