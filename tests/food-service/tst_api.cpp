@@ -139,9 +139,44 @@ private slots:
                                       u"is_default", u"image_name", u"description", u"convertible_unit"}));
         QVERIFY(hasKeys(portions[0][u"convertible_unit"],
                         {u"type", u"is_base", u"id", u"to_base_conversion_rate", u"name", u"unit"}));
-        QCOMPARE(describePortion(portions[0]), u"[1] 904001: 1 cup, mashed, 225 g, default, pictured"_s);
+        QCOMPARE(describePortion(portions[0]),
+                 u"[1] 904005: 1 medium (7\" to 7-7/8\" long), 118 g, default, pictured"_s);
         QCOMPARE(describePortion(portions[7]), u"[8] 904008: 1 NLEA serving, 126 g"_s);
         QCOMPARE(picture(904001, {}).size(), QSize(600, 600));
+    }
+
+    // The portion people mean comes first: a whole one (a medium one before other sizes), then a cup,
+    // then other household measures, then weights, then servings and packages.
+    void portionsComeInTheOrderPeopleMean_data()
+    {
+        QTest::addColumn<int>("foodId");
+        QTest::addColumn<QString>("first");
+        QTest::addColumn<QString>("last");
+        QTest::newRow("banana") << 9040 << u"1 medium (7\" to 7-7/8\" long)"_s << u"1 NLEA serving"_s;
+        QTest::newRow("apple") << 9003 << u"1 medium (3\" dia)"_s << QString();
+        QTest::newRow("egg") << 1123 << u"1 medium"_s << QString();
+        QTest::newRow("baked potato") << 11674 << u"1 potato medium"_s << QString();
+        QTest::newRow("white bread") << 18069 << u"1 slice"_s << QString();
+        QTest::newRow("whole milk, a quart in the data") << 1077 << u"1 cup"_s << QString();
+        QTest::newRow("orange juice, a fruit's yield in the data")
+            << 9206 << u"1 cup"_s << u"1 fruit yields"_s;
+        QTest::newRow("rice") << 20045 << u"1 cup"_s << QString();
+    }
+
+    void portionsComeInTheOrderPeopleMean()
+    {
+        QFETCH(int, foodId);
+        QFETCH(QString, first);
+        QFETCH(QString, last);
+        const QJsonArray portions =
+            m_client->get(food + "/" + QByteArray::number(foodId)).json()[u"portions"].toArray();
+        QVERIFY(!portions.isEmpty());
+        QCOMPARE(portions.first()[u"description"].toString(), first);
+        QVERIFY(portions.first()[u"is_default"].toBool());
+        if (!last.isEmpty())
+            QCOMPARE(portions.last()[u"description"].toString(), last);
+        for (qsizetype i = 0; i < portions.size(); ++i)
+            QCOMPARE(portions[i][u"order_num"].toInteger(), i + 1);
     }
 
     // Per 100 g in the data, scaled to the amount, Calories first.

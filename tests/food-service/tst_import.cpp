@@ -209,13 +209,14 @@ private slots:
         QTest::addColumn<int>("id");
         QTest::addColumn<QStringList>("portions");
 
-        // Ids follow the food's number; grams are rounded, but never to nothing.
-        QTest::newRow("measures in their order")
+        // Ids follow the food's number and its measures' order; grams are rounded, but never to nothing.
+        // Whole ones come first, then household measures, then servings.
+        QTest::newRow("whole ones first")
             << 9040
-            << QStringList{u"[1] 904001: 1 cup, mashed, 225 g, default, pictured"_s,
-                           u"[2] 904002: 1 1/2 extra small (less than 6\" long), 81 g, pictured"_s,
-                           u"[3] 904003: 1 NLEA serving, 126 g"_s,
-                           u"[4] 904004: 1 slice, thin, 1 g, pictured"_s};
+            << QStringList{u"[1] 904002: 1 1/2 extra small (less than 6\" long), 81 g, default, pictured"_s,
+                           u"[2] 904004: 1 slice, thin, 1 g, pictured"_s,
+                           u"[3] 904001: 1 cup, mashed, 225 g, pictured"_s,
+                           u"[4] 904003: 1 NLEA serving, 126 g"_s};
         QTest::newRow("amount as a fraction")
             << 8266 << QStringList{u"[1] 826601: 3/4 cup (1 NLEA serving), 30 g, default, pictured"_s};
         QTest::newRow("no measures") << 23567 << QStringList();

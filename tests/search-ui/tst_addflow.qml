@@ -211,11 +211,13 @@ ScreenTestCase {
         verify(grid.height / grid.cellHeight >= 2.5)
         root.height = 700 // the last row of boxes below the fold
         grid.positionViewAtEnd()
-        mouseClick(portionBox(portions, mediumBanana))
-        compare(portions.uiView.selectedPortionId, mediumBanana)
+        const options = portions.uiView.portionOptions
+        const lastPictured = options[options.length - 1].id
+        mouseClick(portionBox(portions, lastPictured))
+        compare(portions.uiView.selectedPortionId, lastPictured)
         portions.uiView.tabOption = 1
         const inView = () => {
-            const box = portionBox(portions, mediumBanana)
+            const box = portionBox(portions, lastPictured)
             const top = box.mapToItem(grid, 0, 0).y
             return top >= 0 && top + box.height <= grid.height
         }

@@ -7,6 +7,7 @@
 #include "catalog/Nutrients.h"
 #include "catalog/Pairings.h"
 #include "catalog/PictureKind.h"
+#include "catalog/PortionOrder.h"
 #include "catalog/PortionText.h"
 #include "db/Schema.h"
 #include "db/Sqlite.h"
@@ -17,6 +18,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <map>
+#include <numeric>
 #include <stdexcept>
 #include <unistd.h>
 #include <vector>
@@ -97,12 +99,19 @@ void writeFood(Inserts &inserts, const PreparedFood &food, ImportSummary &summar
 
     auto &insertPortion = inserts.portion;
     const auto count = std::min(food.source.measures.size(), maxPortions);
-    for (std::size_t i = 0; i < count; ++i) {
+    // Ids follow the source's order, so they stay the same; the order shown puts what people mean first.
+    std::vector<std::size_t> shown(count);
+    std::iota(shown.begin(), shown.end(), std::size_t{0});
+    std::stable_sort(shown.begin(), shown.end(), [&food](std::size_t a, std::size_t b) {
+        return portionRank(food.source.measures[a].name) < portionRank(food.source.measures[b].name);
+    });
+    for (std::size_t place = 0; place < count; ++place) {
+        const std::size_t i = shown[place];
         const auto &measure = food.source.measures[i];
         const auto index = static_cast<std::int64_t>(i + 1);
         insertPortion.bind(1, id * 100 + index)
             .bind(2, id)
-            .bind(3, index)
+            .bind(3, static_cast<std::int64_t>(place + 1))
             .bind(4, std::int64_t{portionGrams(measure.grams)})
             .bind(5, portionDescription(measure.amount, measure.name))
             .bind(6, pictureKindOf(measure.name));
