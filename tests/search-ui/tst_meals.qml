@@ -143,7 +143,9 @@ ScreenTestCase {
         for (let i = 1; i < 3; ++i)
             mouseClick(findChild(findChild(editor, "quantityStepper"), "plusButton"))
         compare(editor.uiView.quantity, "3")
-        compare(Number(findChild(editor, "totalCarbohydrates").text.replace(" g", "")), line)
+        const totalCarbs = findChild(editor, "totalCarbohydrates")
+        compare(Number(totalCarbs.text.replace(" g", "")), line)
+        verify(totalCarbs.font.pixelSize > largestOtherText(editor, totalCarbs)) // the figure to dose from
         shoot(editor, "meal-select")
         mouseClick(findChild(editor, "addToCalculatorButton"))
         settle(root.navigation, 1)

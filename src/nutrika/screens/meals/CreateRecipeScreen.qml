@@ -169,13 +169,14 @@ FocusScope {
                 Accessible.role: Accessible.StaticText
                 Accessible.name: qsTr("Total Carbohydrates %1").arg(totalCarbs.text)
                 LabelCell { text: qsTr("Total Carbohydrates") }
+                // What a dose is taken from when the meal goes to the calculator: the largest figure here.
                 Text {
                     id: totalCarbs
                     objectName: "totalCarbohydrates"
                     Layout.fillWidth: true
                     Layout.leftMargin: 10
                     text: screen.uiView.totalTrackedText
-                    font.pixelSize: Look.bodySize
+                    font.pixelSize: Look.figureSize
                     font.bold: true
                     color: "black"
                 }
