@@ -418,6 +418,45 @@ private slots:
         row("corn", AmongPlain, 3, "Corn, sweet, yellow, raw");
         row("green beans", AmongPlain, 3, "Beans, snap, green, raw");
         row("strawberry", AmongPlain, 3, "Strawberries, raw");
+        // Everyday words for breakfast, staples, fruit, drinks and snacks, some misspelt.
+        row("rolled oats", AmongPlain, 3,
+            "Cereals, oats, instant, fortified, plain, prepared with water (boiling water added or "
+            "microwaved)");
+        row("scrambled eggs", AmongPlain, 3, "Egg, whole, cooked, scrambled");
+        row("boiled egg", AmongPlain, 3, "Egg, whole, cooked, hard-boiled");
+        row("yogurt", AmongPlain, 3, "Yogurt, plain, whole milk, 8 grams protein per 8 ounce");
+        row("pancakes", AmongPlain, 3, "Pancakes, plain, prepared from recipe");
+        row("waffles", AmongPlain, 3, "Waffles, plain, prepared from recipe");
+        row("croissant", AmongPlain, 3, "Croissants, butter");
+        row("english muffin", AmongPlain, 3, "English muffins, wheat");
+        row("whole wheat bread", AmongPlain, 3, "Bread, whole-wheat, commercially prepared");
+        row("cornflakes", AmongPlain, 3, "Cereals ready-to-eat, corn flakes, low sodium");
+        row("maple syrup", AmongPlain, 3, "Syrups, maple");
+        row("sugar", AmongPlain, 3, "Sugars, granulated");
+        row("cream cheese", AmongPlain, 3, "Cheese, cream");
+        row("cheddar cheese", AmongPlain, 3, "Cheese, cheddar");
+        row("white rice", AmongPlain, 3, "Rice, white, medium-grain, cooked");
+        row("hummus", AmongPlain, 3, "Hummus, home prepared");
+        row("cucumber", AmongPlain, 3, "Cucumber, with peel, raw");
+        row("orange", AmongPlain, 3, "Oranges, raw, all commercial varieties");
+        row("pear", AmongPlain, 3, "Pears, raw");
+        row("kiwi", AmongPlain, 3, "Kiwifruit, green, raw");
+        row("mango", AmongPlain, 3, "Mangos, raw");
+        row("pineapple", AmongPlain, 3, "Pineapple, raw, all varieties");
+        row("pinapple", AmongPlain, 3, "Pineapple, raw, all varieties");
+        row("watermelon", AmongPlain, 3, "Watermelon, raw");
+        row("watermellon", AmongPlain, 3, "Watermelon, raw");
+        row("blueberries", AmongPlain, 3, "Blueberries, raw");
+        row("bluberries", AmongPlain, 3, "Blueberries, raw");
+        row("raisins", AmongPlain, 3, "Raisins, seedless");
+        row("whole milk", AmongPlain, 3, "Milk, whole, 3.25% milkfat, with added vitamin D");
+        row("apple juice", AmongPlain, 3,
+            "Apple juice, canned or bottled, unsweetened, without added ascorbic acid");
+        row("oranje juice", AmongPlain, 3, "Orange juice, raw");
+        row("red wine", AmongPlain, 3, "Alcoholic beverage, wine, table, red");
+        row("beer", AmongPlain, 3, "Alcoholic beverage, beer, regular, all");
+        row("pretzels", AmongPlain, 3, "Snacks, pretzels, hard, plain, salted");
+        row("almonds", AmongPlain, 3, "Nuts, almonds");
         row("cherry", AmongPlain, 3, "Cherries, sweet, raw");
         row("peach", AmongPlain, 3, "Peaches, raw");
         row("avocado", AmongPlain, 3, "Avocados, raw, all commercial varieties");
