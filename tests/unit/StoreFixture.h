@@ -56,7 +56,11 @@ public:
 
     [[nodiscard]] static QByteArray storedDocument()
     {
-        return nutrika::Preferences().valueOnDisk(QStringLiteral("recipes")).toByteArray();
+        return nutrika::Preferences()
+            .valuesOnDisk()
+            .value_or(QSettings::SettingsMap())
+            .value(QStringLiteral("recipes"))
+            .toByteArray();
     }
 
     /// Overwrites the whole preferences file, as a failing disk or another program might.

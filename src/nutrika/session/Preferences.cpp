@@ -44,11 +44,6 @@ Preferences::Preferences() : QSettings(preferencesFormat(), QSettings::UserScope
 {
 }
 
-QVariant Preferences::valueOnDisk(const QString &key) const
-{
-    return valuesOnDisk().value_or(SettingsMap()).value(key);
-}
-
 std::optional<QSettings::SettingsMap> Preferences::valuesOnDisk() const
 {
     QFile file(fileName());

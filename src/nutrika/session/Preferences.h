@@ -12,12 +12,9 @@ class Preferences : public QSettings
 public:
     Preferences();
 
-    /// The value under `key` as the file holds it now. QSettings rereads its file only when the size or
-    /// the millisecond of the last change differs, so it can miss a same-sized write by another process.
-    [[nodiscard]] QVariant valueOnDisk(const QString &key) const;
-
     /// Every value the file holds now: none when there is no file or it is empty, nullopt when it holds
-    /// bytes that cannot be read as preferences.
+    /// bytes that cannot be read as preferences. QSettings rereads its file only when the size or the
+    /// millisecond of the last change differs, so it can miss a same-sized write by another process.
     [[nodiscard]] std::optional<SettingsMap> valuesOnDisk() const;
 };
 

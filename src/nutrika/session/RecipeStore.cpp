@@ -90,11 +90,12 @@ bool keepUnreadableCopy(const QString &settingsFile)
     const QByteArray bytes = original.readAll();
     const QFileInfo info(settingsFile);
     const QString stamp = QDateTime::currentDateTime().toString(u"yyyy-MM-ddTHH-mm-ss"_s);
-    QString copyName =
-        info.dir().filePath(u"%1-unreadable-%2.%3"_s.arg(info.completeBaseName(), stamp, info.suffix()));
+    const auto copyPath = [&info](const QString &tag) {
+        return info.dir().filePath(u"%1-unreadable-%2.%3"_s.arg(info.completeBaseName(), tag, info.suffix()));
+    };
+    QString copyName = copyPath(stamp);
     for (int n = 2; QFileInfo::exists(copyName); ++n)
-        copyName = info.dir().filePath(
-            u"%1-unreadable-%2-%3.%4"_s.arg(info.completeBaseName(), stamp).arg(n).arg(info.suffix()));
+        copyName = copyPath(stamp + u'-' + QString::number(n));
     // Written whole or not at all, so a crash never leaves a copy that looks complete but is not.
     QSaveFile copy(copyName);
     if (!copy.open(QIODevice::WriteOnly) || copy.write(bytes) != bytes.size() || !copy.commit()) {
