@@ -1,5 +1,6 @@
 #include "picture/PictureFonts.h"
 
+#include <algorithm>
 #include <cairo-ft.h>
 #include <cstring>
 #include <fontconfig/fontconfig.h>
@@ -77,6 +78,27 @@ std::string codePoint(char32_t glyph)
     return "U+" + hex;
 }
 
+// The bounds of the pixels opaque enough to see; faint anti-aliased fringes do not count.
+void findInk(EmojiImage &image)
+{
+    constexpr std::uint8_t seen = 48;
+    image.inkLeft = image.width;
+    image.inkTop = image.height;
+    for (int y = 0; y < image.height; ++y) {
+        for (int x = 0; x < image.width; ++x) {
+            const auto alpha = image.pixels[static_cast<std::size_t>(y * image.stride + x * 4 + 3)];
+            if (alpha < seen)
+                continue;
+            image.inkLeft = std::min(image.inkLeft, x);
+            image.inkRight = std::max(image.inkRight, x + 1);
+            image.inkTop = std::min(image.inkTop, y);
+            image.inkBottom = std::max(image.inkBottom, y + 1);
+        }
+    }
+    if (image.inkRight <= image.inkLeft)
+        throw std::runtime_error("an emoji draws nothing");
+}
+
 } // namespace
 
 PictureFonts::PictureFonts(const std::vector<char32_t> &glyphs)
@@ -113,6 +135,7 @@ std::shared_ptr<const EmojiImage> PictureFonts::emoji(char32_t glyph) const
                         static_cast<std::size_t>(row) * static_cast<std::size_t>(image->stride),
                     bitmap.buffer + static_cast<std::ptrdiff_t>(row) * bitmap.pitch,
                     static_cast<std::size_t>(image->stride));
+    findInk(*image);
     kept = image;
     return kept;
 }

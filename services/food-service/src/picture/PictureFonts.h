@@ -19,6 +19,11 @@ struct EmojiImage
     int height = 0;
     int stride = 0;
     std::vector<std::uint8_t> pixels;
+    // The box of the pixels that show the food, without the font's clear margins.
+    int inkLeft = 0;
+    int inkTop = 0;
+    int inkRight = 0;
+    int inkBottom = 0;
 };
 
 // The fonts of the portion pictures, found through fontconfig: Liberation Sans for the

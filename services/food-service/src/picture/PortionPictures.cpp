@@ -10,7 +10,7 @@ PortionPictures::PortionPictures() : m_looks(foodPictureTable()), m_fonts(m_look
 
 Surface PortionPictures::draw(const PortionPictureRow &row, int size) const
 {
-    return drawPortionPicture(portionScene(row, m_looks), m_fonts, size);
+    return drawPortionPicture(portionScene(row, m_looks), m_fonts, m_backdrops.copy(size));
 }
 
 std::string PortionPictures::png(const PortionPictureRow &row, int size) const

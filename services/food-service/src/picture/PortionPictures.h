@@ -1,6 +1,7 @@
 #pragma once
 
 #include "db/FoodStore.h"
+#include "picture/Backdrops.h"
 #include "picture/FoodLooks.h"
 #include "picture/PictureFonts.h"
 #include "picture/PortionPicture.h"
@@ -22,6 +23,7 @@ public:
 private:
     FoodLooks m_looks;
     PictureFonts m_fonts;
+    Backdrops m_backdrops;
 };
 
 } // namespace foodservice

@@ -1,31 +1,34 @@
 #include "picture/PortionScene.h"
 
 #include "catalog/PortionText.h"
+#include "picture/EverydayMeasure.h"
+#include "picture/Vessels.h"
 #include "text/FoldedText.h"
 
 #include <algorithm>
 #include <cctype>
 #include <charconv>
+#include <cmath>
 
 namespace foodservice {
 namespace {
 
 constexpr double fluidOuncesPerCup = 8;
+constexpr double gramsPerCupOfDrink = 240;
 
 Vessel vesselOf(std::string_view pictureKind, const FoodLook &look)
 {
-    if (pictureKind == "cup")
-        return look.cupVessel == "glass" ? Vessel::Glass
-               : look.cupVessel == "cup" ? Vessel::Cup
-                                         : Vessel::Bowl;
-    if (pictureKind == "glass")
-        return Vessel::Glass;
-    if (pictureKind == "bowl")
-        return Vessel::Bowl;
     if (pictureKind == "tablespoon")
         return Vessel::Tablespoon;
     if (pictureKind == "teaspoon")
         return Vessel::Teaspoon;
+    // A drink is poured whatever its measure: a can or a bottle is a glass of its size.
+    if (look.cupVessel != "bowl")
+        return look.cupVessel == "glass" ? Vessel::Glass : Vessel::Cup;
+    if (pictureKind == "cup" || pictureKind == "bowl")
+        return Vessel::Bowl;
+    if (pictureKind == "glass")
+        return Vessel::Glass;
     return Vessel::Plate;
 }
 
@@ -44,19 +47,41 @@ double fluidOunces(std::string_view description)
     return ec == std::errc() && end == description.data() + unit ? ounces : 0;
 }
 
+// The food's own name for a picture that names it: "Beets, raw" gives "beets".
+std::string foodName(std::string_view description)
+{
+    const auto words = foldedWords(foldText(description.substr(0, description.find(','))));
+    std::string name;
+    for (const auto &word : words) {
+        if (name.size() + word.size() > 18)
+            break;
+        name += (name.empty() ? "" : " ") + word;
+    }
+    return name;
+}
+
 } // namespace
 
 PortionScene portionScene(const PortionPictureRow &row, const FoodLooks &looks)
 {
     PortionScene scene;
-    scene.look = looks.lookOf(foldText(row.foodDescription), row.category);
+    scene.look = looks.lookOf(foldText(row.foodDescription), row.category, foodName(row.foodDescription));
     scene.vessel = vesselOf(row.picture, scene.look);
     scene.count = std::max(leadingAmount(row.description), 0.01);
     const auto grams = static_cast<double>(std::max<std::int64_t>(row.grams, 1));
-    scene.itemGrams = grams / scene.count;
-    if (const double ounces = fluidOunces(row.description); ounces > 0)
+    const bool cutPiece = row.picture == "slice" || row.picture == "piece";
+    scene.form = cutPiece && scene.look.cut ? *scene.look.cut : scene.look.whole;
+    const double itemGrams = grams / scene.count;
+    scene.itemWidth =
+        std::min(scene.form.centimetres * std::cbrt(itemGrams / scene.form.grams) * pictureUnitsPerCm, 0.96);
+    if (const double ounces = fluidOunces(row.description); ounces > 0) {
         scene.capacityCups = ounces / fluidOuncesPerCup / scene.count;
-    scene.measure = row.description;
+    } else if ((scene.vessel == Vessel::Glass || scene.vessel == Vessel::Cup) && row.picture != "cup") {
+        // A can, a bottle or a fluid ounce: one vessel that holds the portion.
+        scene.count = 1;
+        scene.capacityCups = std::max(grams / gramsPerCupOfDrink, 0.125);
+    }
+    scene.measure = everydayMeasure(row.description);
     scene.weight = std::to_string(row.grams) + " g";
     return scene;
 }

@@ -1,44 +1,14 @@
 #include "picture/Vessels.h"
 
+#include "picture/Drawing.h"
+#include "picture/FoodShapes.h"
+
 #include <algorithm>
 #include <cairo.h>
 #include <cmath>
 
 namespace foodservice {
 namespace {
-
-constexpr double line = 0.004;
-
-void setColour(cairo_t *cr, const Colour &colour, double alpha = 1)
-{
-    cairo_set_source_rgba(cr, colour.red, colour.green, colour.blue, alpha);
-}
-
-// The same colour darker (factor < 1) or lighter (factor > 1).
-Colour shade(const Colour &colour, double factor)
-{
-    const auto channel = [&](double value) {
-        return factor < 1 ? value * factor : value + (1 - value) * (factor - 1);
-    };
-    return {channel(colour.red), channel(colour.green), channel(colour.blue)};
-}
-
-void ellipse(cairo_t *cr, double centreX, double centreY, double radiusX, double radiusY)
-{
-    cairo_save(cr);
-    cairo_translate(cr, centreX, centreY);
-    cairo_scale(cr, radiusX, radiusY);
-    cairo_new_sub_path(cr);
-    cairo_arc(cr, 0, 0, 1, 0, 2 * M_PI);
-    cairo_restore(cr);
-}
-
-void outline(cairo_t *cr, const Colour &colour, double alpha = 1)
-{
-    setColour(cr, colour, alpha);
-    cairo_set_line_width(cr, line);
-    cairo_stroke(cr);
-}
 
 // The share of a vessel's height the food reaches when it fills `fill` of its volume,
 // for a vessel narrower at the foot: the top part holds more.
@@ -64,10 +34,10 @@ void drawShadow(cairo_t *cr, double centreX, double base, double width)
 
 void drawPlate(cairo_t *cr)
 {
-    ellipse(cr, 0.5, plateCentreY + 0.018, 0.44, 0.13);
+    ellipse(cr, 0.5, plateCentreY + 0.018, plateWidth / 2, 0.13);
     cairo_set_source_rgba(cr, 0, 0, 0, 0.10);
     cairo_fill(cr);
-    ellipse(cr, 0.5, plateCentreY, 0.44, 0.13);
+    ellipse(cr, 0.5, plateCentreY, plateWidth / 2, 0.13);
     setColour(cr, ceramic);
     cairo_fill_preserve(cr);
     outline(cr, ceramicEdge, 0.8);
@@ -95,10 +65,7 @@ void drawBowl(cairo_t *cr, double centreX, double base, double width, const Food
     const double surfaceY = top + (1 - level) * height * 0.55;
     const double surfaceWidth = width * (0.62 + 0.34 * level);
     if (fill > 0) {
-        ellipse(cr, centreX, surfaceY, surfaceWidth / 2, rimDepth * surfaceWidth / width);
-        setColour(cr, food.colour);
-        cairo_fill_preserve(cr);
-        outline(cr, shade(food.colour, 0.75), 0.6);
+        drawSurface(cr, food, centreX, surfaceY, surfaceWidth / 2, rimDepth * surfaceWidth / width);
     }
     contents(surfaceY, surfaceWidth);
 
@@ -213,9 +180,7 @@ void drawCup(cairo_t *cr, double centreX, double base, double width, const FoodL
     outline(cr, ceramicEdge);
     if (fill > 0) {
         const double inset = 1 - 0.12 - 0.25 * (1 - levelOf(fill));
-        ellipse(cr, centreX, top + rimDepth * (1 - inset) * 0.8, half * inset, rimDepth * inset);
-        setColour(cr, food.colour);
-        cairo_fill(cr);
+        drawSurface(cr, food, centreX, top + rimDepth * (1 - inset) * 0.8, half * inset, rimDepth * inset);
     }
 }
 
@@ -246,10 +211,7 @@ void drawSpoon(cairo_t *cr, double x, double y, double scale, const FoodLook &fo
     outline(cr, steelEdge);
     if (fill > 0) {
         const double share = 0.45 + 0.45 * levelOf(fill);
-        ellipse(cr, 0, 0, bowlX * share, bowlY * share);
-        setColour(cr, food.colour);
-        cairo_fill_preserve(cr);
-        outline(cr, shade(food.colour, 0.75), 0.6);
+        drawSurface(cr, food, 0, 0, bowlX * share, bowlY * share);
     }
     ellipse(cr, -bowlX * 0.45, -bowlY * 0.35, bowlX * 0.18, bowlY * 0.12);
     cairo_set_source_rgba(cr, 1, 1, 1, 0.75);

@@ -16,9 +16,12 @@ namespace foodservice {
 void drawPlate(cairo_t *cr);
 // The top of the plate where vessels and food stand.
 constexpr double plateCentreY = 0.7;
+// The plate is a 27 cm dinner plate, so every food and vessel is drawn at its own size.
+constexpr double plateWidth = 0.88;
+constexpr double pictureUnitsPerCm = plateWidth / 27;
 
 // `contents` draws what shows above the food in the bowl (its glyph) before the bowl's
-// front hides the part below the rim; it gets the centre and width of the food's surface.
+// front hides the part below the rim; it gets the height and width of the food's surface.
 void drawBowl(cairo_t *cr, double centreX, double base, double width, const FoodLook &food, double fill,
               const std::function<void(double surfaceY, double surfaceWidth)> &contents);
 void drawGlass(cairo_t *cr, double centreX, double base, double width, const FoodLook &food, double fill);
