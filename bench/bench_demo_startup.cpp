@@ -1,5 +1,6 @@
-// Cold start of `nutrika-demo --preview calculator --screenshot` against a minimal Qt Quick window that
-// does the same (the floor), measured in the same run: wall time and peak resident memory, as medians.
+// Cold start of `nutrika-demo --preview calculator --screenshot`, with every host option off and then on,
+// against a minimal Qt Quick window that does the same (the floor), measured in the same run: wall time
+// and peak resident memory, as medians.
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -57,12 +58,15 @@ int main(int argc, char *argv[])
     const std::string demoPng = QDir(dir.path()).filePath(QStringLiteral("demo.png")).toStdString();
     const std::string floorPng = QDir(dir.path()).filePath(QStringLiteral("floor.png")).toStdString();
     const std::vector<std::string> demo{NUTRIKA_DEMO, "--preview", "calculator", "--screenshot", demoPng};
+    // The same with every host option on.
+    std::vector<std::string> demoOptions = demo;
+    demoOptions.insert(demoOptions.end(), {"--carb-unit", "KE", "--net-carbs", "--fpu", "--undo"});
     const std::vector<std::string> floor{FLOOR_PROGRAM, floorPng};
 
-    std::vector<double> demoTime, demoMem, floorTime, floorMem;
+    std::vector<double> demoTime, demoMem, optionsTime, optionsMem, floorTime, floorMem;
     Run run;
     // One untimed round of each warms the file cache, so every timed round starts alike.
-    if (!runOnce(demo, run) || !runOnce(floor, run)) {
+    if (!runOnce(demo, run) || !runOnce(demoOptions, run) || !runOnce(floor, run)) {
         std::fprintf(stderr, "bench_demo_startup: a program failed to run\n");
         return 1;
     }
@@ -75,10 +79,23 @@ int main(int argc, char *argv[])
             return 1;
         demoTime.push_back(run.seconds);
         demoMem.push_back(run.peakMiB);
+        if (!runOnce(demoOptions, run))
+            return 1;
+        optionsTime.push_back(run.seconds);
+        optionsMem.push_back(run.peakMiB);
     }
-    const double t = median(demoTime), tf = median(floorTime), m = median(demoMem), mf = median(floorMem);
+    const double tf = median(floorTime), mf = median(floorMem);
     std::printf("start-up, median of %d runs (offscreen, software rendering)\n", rounds);
-    std::printf("  time:   nutrika-demo %.3f s   floor %.3f s   ratio %.2f (goal <= 1.25)\n", t, tf, t / tf);
-    std::printf("  memory: nutrika-demo %.1f MiB  floor %.1f MiB  ratio %.2f (goal <= 1.3)\n", m, mf, m / mf);
+    const auto print = [&](const char *what, const std::vector<double> &time,
+                           const std::vector<double> &memory) {
+        const double t = median(time), m = median(memory);
+        std::printf("  %s\n", what);
+        std::printf("    time:   nutrika-demo %.3f s   floor %.3f s   ratio %.2f (goal <= 1.25)\n", t, tf,
+                    t / tf);
+        std::printf("    memory: nutrika-demo %.1f MiB  floor %.1f MiB  ratio %.2f (goal <= 1.3)\n", m, mf,
+                    m / mf);
+    };
+    print("every host option off", demoTime, demoMem);
+    print("every host option on", optionsTime, optionsMem);
     return 0;
 }

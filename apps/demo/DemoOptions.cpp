@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QMap>
 #include <QRegularExpression>
 
 using namespace Qt::Literals::StringLiterals;
@@ -70,7 +71,13 @@ std::variant<DemoOptions, int> parseDemoOptions(const QStringList &arguments)
         u"Draw a preview or a picture in a window of <WxH> pixels, such as 1000x900 "
         u"(430x860 unless given)."_s,
         u"WxH"_s);
-    parser.addOptions({preview, screenshot, origin, apiKey, caCert, size});
+    const QCommandLineOption carbUnit(
+        u"carb-unit"_s, u"Show a carbohydrate <unit> beside the grams: BE, KE or exchanges."_s, u"unit"_s);
+    const QCommandLineOption netCarbs(u"net-carbs"_s,
+                                      u"Show net carbohydrates (less fibre) beside the grams."_s);
+    const QCommandLineOption fpu(u"fpu"_s, u"Show the meal's fat-protein units and absorption time."_s);
+    const QCommandLineOption undo(u"undo"_s, u"Offer \"Undo\" after a line is removed."_s);
+    parser.addOptions({preview, screenshot, origin, apiKey, caCert, size, carbUnit, netCarbs, fpu, undo});
     if (!parser.parse(arguments))
         return usageError(parser.errorText());
     if (parser.isSet(help)) {
@@ -110,5 +117,18 @@ std::variant<DemoOptions, int> parseDemoOptions(const QStringList &arguments)
                     parser.value(size)));
         options.windowSize = QSize(match.captured(1).toInt(), match.captured(2).toInt());
     }
+    if (parser.isSet(carbUnit)) {
+        static const QMap<QString, nutrika::CarbUnit> units = {{u"BE"_s, nutrika::CarbUnit::BE},
+                                                               {u"KE"_s, nutrika::CarbUnit::KE},
+                                                               {u"exchanges"_s, nutrika::CarbUnit::Exchanges},
+                                                               {u"g"_s, nutrika::CarbUnit::Grams}};
+        if (!units.contains(parser.value(carbUnit)))
+            return usageError(
+                u"--carb-unit needs BE, KE, exchanges or g, not \"%1\""_s.arg(parser.value(carbUnit)));
+        options.hostOptions.carbUnit = units.value(parser.value(carbUnit));
+    }
+    options.hostOptions.netCarbohydrates = parser.isSet(netCarbs);
+    options.hostOptions.fatProteinUnits = parser.isSet(fpu);
+    options.hostOptions.undoRemoval = parser.isSet(undo);
     return options;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "nutrika/MealResult.h"
+
 #include <memory>
 #include <QCoreApplication>
 #include <QList>
@@ -24,6 +26,8 @@ struct DemoOptions
     QList<QSslCertificate> caCertificates;
     /// The window of a preview or a picture: a phone's unless asked otherwise.
     QSize windowSize{430, 860};
+    /// What the host turns on in the module.
+    nutrika::HostOptions hostOptions;
 };
 
 /// The application the arguments need, made before they are parsed, so that help needs no display and a

@@ -10,7 +10,8 @@ using namespace Qt::Literals::StringLiterals;
 
 HostWindow::HostWindow(QString apiKey, QString serviceNote)
     : m_apiKey(std::move(apiKey)),
-      m_status(new QLabel(u"Count the carbohydrates of a meal before you dose."_s, this))
+      m_status(new QLabel(u"Count the carbohydrates of a meal before you dose."_s, this)),
+      m_result(new QLabel(this))
 {
     setWindowTitle(u"Nutrika demo host"_s);
     auto *layout = new QVBoxLayout(this);
@@ -20,15 +21,40 @@ HostWindow::HostWindow(QString apiKey, QString serviceNote)
     open->setDefault(true);
     open->setAutoDefault(true);
     m_status->setWordWrap(true);
+    m_result->setWordWrap(true);
+    m_result->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    m_result->setAccessibleName(u"Meal received from the calculator"_s);
+    auto *clear = new QPushButton(u"Dosed: clear the calculator"_s, this);
+    clear->setAccessibleName(u"Dosed: clear the calculator"_s);
     auto *service = new QLabel(serviceNote, this);
     service->setWordWrap(true);
     layout->addWidget(title);
     layout->addWidget(m_status);
     layout->addWidget(open);
+    layout->addWidget(m_result);
+    layout->addWidget(clear);
     layout->addWidget(service);
     layout->addStretch();
     connect(open, &QPushButton::clicked, this, &HostWindow::openModule);
-    resize(420, 300);
+    connect(clear, &QPushButton::clicked, this, [this] {
+        nutrika::clearCalculator();
+        showResult(u"The calculator is empty."_s, nutrika::mealResult());
+    });
+    // What the calculator hands back when it closes: a bolus calculator would take the total from here.
+    connect(nutrika::mealResults(), &nutrika::MealResults::closed, this,
+            [this](const nutrika::MealResult &result) {
+                showResult(u"Received from the calculator:"_s, result);
+            });
+    resize(420, 360);
+}
+
+void HostWindow::showResult(const QString &heading, const nutrika::MealResult &result)
+{
+    QString text = heading;
+    for (const nutrika::MealLine &line : result.lines)
+        text += u"\n• %1 (%2): %3 g"_s.arg(line.name, line.portion).arg(line.carbohydrates);
+    text += u"\nTotal carbohydrates: %1 g"_s.arg(result.totalCarbohydrates);
+    m_result->setText(text);
 }
 
 void HostWindow::openModule()

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "nutrika/MealResult.h"
+
 #include <QWidget>
 
 class QLabel;
 
-/// The host application's own window: a button that opens the module full screen, and a line that
-/// says when the module has handed control back.
+/// The host application's own window: a button that opens the module full screen, what was counted
+/// when the module hands control back, and a button that clears the calculator once dosed.
 class HostWindow : public QWidget
 {
     Q_OBJECT
@@ -17,6 +19,9 @@ public:
     void openModule();
 
 private:
+    void showResult(const QString &heading, const nutrika::MealResult &result);
+
     QString m_apiKey;
     QLabel *m_status;
+    QLabel *m_result;
 };

@@ -150,6 +150,7 @@ int main(int argc, char *argv[])
     if (const int *status = std::get_if<int>(&parsed))
         return *status;
     DemoOptions &options = std::get<DemoOptions>(parsed);
+    nutrika::setHostOptions(options.hostOptions);
     if (!options.preview.isEmpty())
         return showPreview(options.preview, options.screenshot, options.windowSize);
     return runHost(std::move(options));

@@ -1,5 +1,5 @@
 // Starts the local food-data service and runs each host given on the command line against it; each
-// must find foods through the module.
+// must find foods through the module and read the calculator's result.
 #include "FoodServiceProcess.h"
 
 #include <cstdio>
@@ -21,8 +21,11 @@ int main(int argc, char *argv[])
         process.start(host, {service.origin(), service.apiKey(), service.caPath()});
         const bool finished = process.waitForFinished(120000);
         const QString output = QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+        // The search found foods, and the host read an empty result with its options kept.
         const bool found = finished && process.exitStatus() == QProcess::NormalExit &&
-                           process.exitCode() == 0 && output.endsWith(QStringLiteral("matching your search"));
+                           process.exitCode() == 0 && output.contains(QStringLiteral("matching your search")) &&
+                           (output.endsWith(QStringLiteral("result: 0 lines, 0 g, unit KE kept")) ||
+                            output.endsWith(QStringLiteral("result: 0 lines, 0 g, unit BE")));
         std::printf("%s: %s\n", qPrintable(host), found ? qPrintable(output) : "FAILED");
         failures += found ? 0 : 1;
     }

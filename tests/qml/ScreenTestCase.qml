@@ -117,4 +117,32 @@ TestCase {
         }, 5000)
         return box
     }
+
+    // Through the ingredient search, a portion and the preview into the meal; the food.
+    function addIngredient(root, editor, query, title, choosePortion, quantity) {
+        mouseClick(findChild(editor, "addIngredientsButton"))
+        const search = settle(root.navigation, 4)
+        compare(findChild(findChild(search, "titleBar"), "title").text, "Search Ingredients")
+        tapFood(search, title, query)
+        const portions = settle(root.navigation, 5)
+        choosePortion(portions)
+        mouseClick(findChild(portions, "selectPortionButton"))
+        const preview = settle(root.navigation, 6)
+        const add = findChild(preview, "addButton")
+        compare(add.text, "Add to meal")
+        for (let i = 1; i < quantity; ++i)
+            mouseClick(findChild(preview, "plusButton"))
+        tryVerify(() => findChild(preview, "carbohydratesValue").text !== "", 5000)
+        const food = { id: preview.uiView.foodItem.id, description: preview.uiView.description }
+        mouseClick(add)
+        return food
+    }
+
+    // The search container over the calculator, on its Meals tab.
+    function openMealsTab(root) {
+        const container = settle(root.navigation, 2)
+        mouseClick(findChild(container, "tabPicker"), 300, 20)
+        tryVerify(() => findChild(container, "meals") !== null)
+        return container
+    }
 }

@@ -40,6 +40,12 @@ public:
     /// The carbohydrates the service gives for `size` `unit` of a food.
     Q_INVOKABLE double carbohydrates(qint64 foodId, qint64 size, const QString &unit)
     {
+        return nutrient(foodId, size, unit, QStringLiteral("Carbohydrates"));
+    }
+
+    /// The amount of the nutrient `name` the service gives for `size` `unit` of a food, or -1.
+    Q_INVOKABLE double nutrient(qint64 foodId, qint64 size, const QString &unit, const QString &name)
+    {
         QUrl url(m_service->origin() +
                  QStringLiteral("/api/v1/healthcare//food/%1/get_nutrients").arg(foodId));
         url.setQuery(QUrlQuery{{QStringLiteral("amount_value"), QString::number(size)},
@@ -55,7 +61,7 @@ public:
         const QJsonObject nutrients = QJsonDocument::fromJson(reply->readAll()).object();
         for (const QString &group : {QStringLiteral("macronutrients"), QStringLiteral("micronutrients")}) {
             for (const QJsonValue &n : nutrients.value(group).toArray()) {
-                if (n[QStringLiteral("nutrient")][QStringLiteral("name")] == QStringLiteral("Carbohydrates"))
+                if (n[QStringLiteral("nutrient")][QStringLiteral("name")] == name)
                     return n[QStringLiteral("amount")][QStringLiteral("value")].toDouble();
             }
         }

@@ -124,7 +124,7 @@ ScreenTestCase {
         const line = findChild(root, "lineList").itemAtIndex(0)
         const title = findChild(line, "lineTitle")
         verify(title.lineCount > 1)
-        verify(title.mapToItem(line, title.width, 0).x <= findChild(line, "lineAmount").x)
+        verify(title.mapToItem(line, title.width, 0).x <= findChild(line, "lineAmount").mapToItem(line, 0, 0).x)
         shoot(root, "calculator-long-lines")
     }
 }

@@ -19,26 +19,6 @@ ScreenTestCase {
         SessionProbe.reset()
     }
 
-    // Through the ingredient search, a portion and the preview into the meal; the food.
-    function addIngredient(root, editor, query, title, choosePortion, quantity) {
-        mouseClick(findChild(editor, "addIngredientsButton"))
-        const search = settle(root.navigation, 4)
-        compare(findChild(findChild(search, "titleBar"), "title").text, "Search Ingredients")
-        tapFood(search, title, query)
-        const portions = settle(root.navigation, 5)
-        choosePortion(portions)
-        mouseClick(findChild(portions, "selectPortionButton"))
-        const preview = settle(root.navigation, 6)
-        const add = findChild(preview, "addButton")
-        compare(add.text, "Add to meal")
-        for (let i = 1; i < quantity; ++i)
-            mouseClick(findChild(preview, "plusButton"))
-        tryVerify(() => findChild(preview, "carbohydratesValue").text !== "", 5000)
-        const food = { id: preview.uiView.foodItem.id, description: preview.uiView.description }
-        mouseClick(add)
-        return food
-    }
-
     function headerLink(editor) { return findChild(editor, "headerLink") }
 
     function savedNames() { return Array.from(SessionProbe.savedMeals(), meal => meal.name + "#" + meal.id) }
@@ -47,13 +27,6 @@ ScreenTestCase {
         const list = findChild(container, "meals")
         tryVerify(() => list.count === 0 || list.itemAtIndex(list.count - 1) !== null)
         return Array.from({ length: list.count }, (_, i) => list.itemAtIndex(i))
-    }
-
-    function openMealsTab(root) {
-        const container = settle(root.navigation, 2)
-        mouseClick(findChild(container, "tabPicker"), 300, 20)
-        tryVerify(() => findChild(container, "meals") !== null)
-        return container
     }
 
     function test_aMealFromCreationToTheCalculatorAndBack() {

@@ -11,9 +11,39 @@ FocusScope {
     // already set stay.
     property string apiKey
     property url serviceOrigin
+    // The host's options for every screen of the process; each is off until the host turns it on.
+    property alias carbUnit: options.carbUnit
+    property alias netCarbohydrates: options.netCarbohydrates
+    property alias fatProteinUnits: options.fatProteinUnits
+    property alias undoRemoval: options.undoRemoval
+    // The calculator's lines and total: {lines: [{name, portion, quantity, carbohydrates, fibre, fat,
+    // protein}], totalCarbohydrates}; an unknown nutrient is null.
+    readonly property var mealResult: NutrikaHost.mealResult
 
     // The host's callback, for a host that embeds this item in QML.
     signal dismissCallback()
+    // "Close" was tapped: what was counted, before dismissCallback.
+    signal closedWith(var mealResult)
+
+    // Empties the calculator, for a host that has dosed from it.
+    function clearCalculator() { NutrikaHost.clearCalculator() }
+
+    QtObject {
+        id: options
+        property string carbUnit: HostSettings.carbUnit
+        property bool netCarbohydrates: HostSettings.netCarbohydrates
+        property bool fatProteinUnits: HostSettings.fatProteinUnits
+        property bool undoRemoval: HostSettings.undoRemoval
+        onCarbUnitChanged: HostSettings.carbUnit = carbUnit
+        onNetCarbohydratesChanged: HostSettings.netCarbohydrates = netCarbohydrates
+        onFatProteinUnitsChanged: HostSettings.fatProteinUnits = fatProteinUnits
+        onUndoRemovalChanged: HostSettings.undoRemoval = undoRemoval
+    }
+
+    Connections {
+        target: NutrikaHost
+        function onClosedWith(mealResult) { root.closedWith(mealResult) }
+    }
 
     Connections {
         target: root.calculator

@@ -3,6 +3,7 @@
 
 #include <nutrika/Nutrika.h>
 
+#include <cstdio>
 #include <QGuiApplication>
 #include <QQuickItem>
 #include <QQuickView>
@@ -24,5 +25,11 @@ int main(int argc, char *argv[])
     view.resize(400, 720);
     view.show();
     searchAndExit(view.rootObject(), QStringLiteral("banana"));
-    return QGuiApplication::exec();
+    const int status = QGuiApplication::exec();
+    // What a bolus calculator would read; nothing was added, so nothing is counted.
+    const QVariantMap result = view.rootObject()->property("mealResult").toMap();
+    std::printf("result: %lld lines, %g g, unit %s\n", static_cast<long long>(result.value(QStringLiteral("lines")).toList().size()),
+                result.value(QStringLiteral("totalCarbohydrates")).toDouble(),
+                qPrintable(view.rootObject()->property("carbUnit").toString()));
+    return status;
 }

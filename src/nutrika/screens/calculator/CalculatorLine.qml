@@ -11,18 +11,21 @@ Rectangle {
     property string amount: ""
     // The portion and quantity, or the meal's servings: what the amount was counted from.
     property string detail: ""
+    // The host's net carbohydrates under the amount, or that fibre is unknown; "" when not asked for.
+    property string note: ""
     // Where the amount ends, from the right edge; the remove button sits in that space.
     property real amountRightInset: 54
 
     signal opened()
     signal removed()
 
-    implicitHeight: Math.max(titles.implicitHeight, lineAmount.implicitHeight, removeButton.height) + 20
+    implicitHeight: Math.max(titles.implicitHeight, amounts.implicitHeight, removeButton.height) + 20
     color: activeFocus ? "#e8f3f7" : "white"
     activeFocusOnTab: true
     Accessible.role: Accessible.Button
     // Name, portion and amount as one row.
     Accessible.name: title + (detail === "" ? "" : ", " + detail) + (amount === "" ? "" : ", " + amount)
+                     + (note === "" ? "" : ", " + note)
     Accessible.onPressAction: opened()
     Keys.onReturnPressed: opened()
     Keys.onEnterPressed: opened()
@@ -35,7 +38,7 @@ Rectangle {
     Column {
         id: titles
         anchors.left: parent.left
-        anchors.right: lineAmount.left
+        anchors.right: amounts.left
         anchors.verticalCenter: parent.verticalCenter
         anchors.leftMargin: 16
         anchors.rightMargin: 8
@@ -61,17 +64,33 @@ Rectangle {
             wrapMode: Text.Wrap
         }
     }
-    Text {
-        id: lineAmount
-        objectName: "lineAmount"
+    Column {
+        id: amounts
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
         anchors.rightMargin: line.amountRightInset
-        width: Math.min(implicitWidth, 145)
-        text: line.amount
-        font.pixelSize: Look.bodySize
-        color: "black"
-        elide: Text.ElideRight
+        spacing: 2
+
+        Text {
+            id: lineAmount
+            objectName: "lineAmount"
+            anchors.right: parent.right
+            width: Math.min(implicitWidth, 145)
+            text: line.amount
+            font.pixelSize: Look.bodySize
+            color: "black"
+            elide: Text.ElideRight
+        }
+        Text {
+            objectName: "lineNote"
+            anchors.right: parent.right
+            width: Math.min(implicitWidth, 145)
+            visible: text !== ""
+            text: line.note
+            font.pixelSize: Look.calloutSize - 1
+            color: "#555555"
+            wrapMode: Text.Wrap
+        }
     }
     ActionButton {
         id: removeButton

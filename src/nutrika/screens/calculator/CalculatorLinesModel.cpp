@@ -2,6 +2,8 @@
 
 #include "EnvironmentVariables.h"
 #include "Formatting.h"
+#include "HostSettings.h"
+#include "MealNutrients.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -12,6 +14,10 @@ CalculatorLinesModel::CalculatorLinesModel(EnvironmentVariables *session, QObjec
 {
     connect(session, &EnvironmentVariables::trackedNutrientListItemsChanged, this,
             &CalculatorLinesModel::reload);
+    connect(HostSettings::shared(), &HostSettings::changed, this, [this] {
+        if (!m_lines.isEmpty())
+            emit dataChanged(index(0), index(int(m_lines.size()) - 1), {AmountRole, NoteRole});
+    });
     reload();
 }
 
@@ -35,7 +41,9 @@ QVariant CalculatorLinesModel::data(const QModelIndex &index, int role) const
     case EntryRole:
         return QVariant::fromValue(const_cast<DiaryEntry *>(&entry));
     case DetailRole:
-        return lineDetail(entry);
+        return entryDetail(entry);
+    case NoteRole:
+        return lineNote(entry);
     default:
         return {};
     }
@@ -43,11 +51,8 @@ QVariant CalculatorLinesModel::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> CalculatorLinesModel::roleNames() const
 {
-    return {{TitleRole, "title"},
-            {IsFoodRole, "isFood"},
-            {AmountRole, "amount"},
-            {EntryRole, "entry"},
-            {DetailRole, "detail"}};
+    return {{TitleRole, "title"}, {IsFoodRole, "isFood"}, {AmountRole, "amount"},
+            {EntryRole, "entry"}, {DetailRole, "detail"}, {NoteRole, "note"}};
 }
 
 DiaryEntryPtr CalculatorLinesModel::line(int row) const
@@ -59,28 +64,15 @@ QString CalculatorLinesModel::lineAmount(const DiaryEntry &entry)
 {
     const bool complete = entry.type() == EntryType::Food ? entry.foodItem() && entry.hasTrackedNutrient()
                                                           : entry.recipeItem().has_value();
-    return complete ? amountText(entry.totalTrackedNutrient()) : QString();
+    return complete ? HostSettings::shared()->carbohydrateText(entry.totalTrackedNutrient()) : QString();
 }
 
-QString CalculatorLinesModel::lineDetail(const DiaryEntry &entry)
+QString CalculatorLinesModel::lineNote(const DiaryEntry &entry)
 {
-    const qint64 quantity = entry.quantity();
-    if (entry.type() == EntryType::Recipe) {
-        if (!entry.recipeItem())
-            return {};
-        const qint64 servings = entry.recipeItem()->servings;
-        return quantity == 1 ? tr("1 serving of %1").arg(servings)
-                             : tr("%1 servings of %2").arg(quantity).arg(servings);
-    }
-    if (!entry.portion())
+    if (!HostSettings::shared()->netCarbohydrates())
         return {};
-    const PortionItem &portion = *entry.portion();
-    const QString weight = QString::number(portion.size) + u' ' + formatUnitShort(portion.unit).trimmed();
-    // A custom amount is its weight alone; its portion record describes nothing the person chose.
-    QString detail = portion.id == basePortionItem().id ? weight : portion.description + u" · "_s + weight;
-    if (quantity > 1)
-        detail += u" × "_s + QString::number(quantity);
-    return detail;
+    const std::optional<double> fibre = lineNutrient(entry, FIBRE_NUTRIENT);
+    return fibre ? netText(entry.totalTrackedNutrient(), *fibre) : tr("fibre unknown");
 }
 
 void CalculatorLinesModel::reload()
@@ -97,6 +89,7 @@ void CalculatorLinesModel::reload()
         m_watches.append(connect(entry, &DiaryEntry::titleChanged, this, changed));
         m_watches.append(connect(entry, &DiaryEntry::portionChanged, this, changed));
         m_watches.append(connect(entry, &DiaryEntry::quantityChanged, this, changed));
+        m_watches.append(connect(entry, &DiaryEntry::nutrientsChanged, this, changed));
     }
     endResetModel();
     emit totalChanged();
@@ -107,7 +100,7 @@ void CalculatorLinesModel::lineChanged(const DiaryEntry *entry)
     // One object may stand at several positions; every one of them shows the change.
     for (int row = 0; row < m_lines.size(); ++row) {
         if (m_lines.at(row).data() == entry)
-            emit dataChanged(index(row), index(row), {TitleRole, AmountRole, DetailRole});
+            emit dataChanged(index(row), index(row), {TitleRole, AmountRole, DetailRole, NoteRole});
     }
     emit totalChanged();
 }

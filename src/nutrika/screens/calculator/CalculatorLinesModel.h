@@ -24,7 +24,8 @@ public:
         IsFoodRole,
         AmountRole,
         EntryRole,
-        DetailRole
+        DetailRole,
+        NoteRole
     };
 
     explicit CalculatorLinesModel(EnvironmentVariables *session, QObject *parent = nullptr);
@@ -35,11 +36,10 @@ public:
 
     /// The line at `row`, or null.
     [[nodiscard]] DiaryEntryPtr line(int row) const;
-    /// The line's amount, or "" when the line lacks what its amount needs.
+    /// The line's amount with the host's unit beside it, or "" when the line lacks what its amount needs.
     [[nodiscard]] static QString lineAmount(const DiaryEntry &entry);
-    /// What the line counts, so a person can check it before dosing: the portion and its weight, times
-    /// the quantity above 1 ("1 medium · 118 g × 2"), or a meal's servings ("1 serving of 2").
-    [[nodiscard]] static QString lineDetail(const DiaryEntry &entry);
+    /// The net carbohydrates under the amount, or that fibre is unknown, when the host shows them; "".
+    [[nodiscard]] static QString lineNote(const DiaryEntry &entry);
 
 signals:
     /// Some line's amount, or the set of lines, changed.

@@ -7,17 +7,19 @@ Rectangle {
     id: row
 
     property string amount: ""
+    // The host's net carbohydrates and fat-protein units, one per line; "" when not asked for.
+    property string note: ""
     property real rightInset: 16
 
     objectName: "totalRow"
-    implicitHeight: totalAmount.implicitHeight + 32
+    implicitHeight: figures.implicitHeight + 32
     color: Look.detailColor
     Accessible.role: Accessible.StaticText
-    Accessible.name: qsTr("Total %1").arg(amount)
+    Accessible.name: qsTr("Total %1").arg(amount) + (note === "" ? "" : ", " + note.replace("\n", ", "))
 
     Text {
         anchors.left: parent.left
-        anchors.right: totalAmount.left
+        anchors.right: figures.left
         anchors.verticalCenter: parent.verticalCenter
         anchors.leftMargin: 16
         text: qsTr("Total")
@@ -25,18 +27,35 @@ Rectangle {
         font.pixelSize: Look.bodySize
         color: Look.titleText
     }
-    Text {
-        id: totalAmount
-        objectName: "totalAmount"
+    Column {
+        id: figures
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
         anchors.rightMargin: row.rightInset
-        width: Math.min(implicitWidth, 170)
-        text: row.amount
-        font.bold: true
-        font.pixelSize: Look.figureSize
-        fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: Look.bodySize
-        color: Look.titleText
+        spacing: 4
+
+        Text {
+            id: totalAmount
+            objectName: "totalAmount"
+            anchors.right: parent.right
+            width: Math.min(implicitWidth, 170)
+            text: row.amount
+            // Shrunk to fit, it still ends where the lines' amounts end.
+            horizontalAlignment: Text.AlignRight
+            font.bold: true
+            font.pixelSize: Look.figureSize
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: Look.bodySize
+            color: Look.titleText
+        }
+        Text {
+            objectName: "totalNote"
+            anchors.right: parent.right
+            visible: text !== ""
+            text: row.note
+            horizontalAlignment: Text.AlignRight
+            font.pixelSize: Look.calloutSize
+            color: Look.titleText
+        }
     }
 }

@@ -63,6 +63,7 @@ FocusScope {
                 y: columnHeader.height
                 width: parent.width
                 height: parent.height - columnHeader.height - searchMore.height - 20
+                        - (undoBar.visible ? undoBar.height + 10 : 0)
                 clip: true
                 model: screen.uiView.lines
                 boundsBehavior: Flickable.StopAtBounds
@@ -75,6 +76,7 @@ FocusScope {
                     required isFood
                     required amount
                     required detail
+                    required note
                     width: lineList.width
                     amountRightInset: screen.amountsRightInset
                     Component.onCompleted: Qt.callLater(screen.readLinesInOrder)
@@ -85,7 +87,49 @@ FocusScope {
                 footer: CalculatorTotalRow {
                     width: lineList.width
                     amount: screen.uiView.totalText
+                    note: screen.uiView.totalNote
                     rightInset: screen.amountsRightInset
+                }
+            }
+
+            // After a removal, when the host offers it: the line can be put back for a few seconds.
+            Rectangle {
+                id: undoBar
+                objectName: "undoBar"
+                anchors.bottom: searchMore.top
+                anchors.left: parent.left
+                anchors.right: parent.right
+                anchors.margins: 10
+                visible: screen.uiView.undoText !== ""
+                height: 52
+                radius: 8
+                color: "#333333"
+                Accessible.role: Accessible.AlertMessage
+                Accessible.name: screen.uiView.undoText
+
+                Text {
+                    anchors.left: parent.left
+                    anchors.right: undoButton.left
+                    anchors.verticalCenter: parent.verticalCenter
+                    anchors.leftMargin: 16
+                    text: screen.uiView.undoText
+                    elide: Text.ElideRight
+                    font.pixelSize: Look.bodySize
+                    color: "white"
+                }
+                ActionButton {
+                    id: undoButton
+                    objectName: "undoButton"
+                    anchors.right: parent.right
+                    anchors.verticalCenter: parent.verticalCenter
+                    anchors.rightMargin: 6
+                    implicitWidth: 88
+                    implicitHeight: 44
+                    text: qsTr("Undo")
+                    bold: true
+                    pixelSize: Look.bodySize
+                    textColor: "#8fd3ff"
+                    onClicked: screen.uiView.undoRemove()
                 }
             }
 

@@ -5,6 +5,9 @@
 #include "EnvironmentVariables.h"
 #include "ExampleData.h"
 #include "Formatting.h"
+#include "HostSettings.h"
+#include "MealNutrients.h"
+#include "nutrika/Nutrika.h"
 #include "Totals.h"
 
 #include <QJsonArray>
@@ -30,9 +33,13 @@ CarbCounterUIView::CarbCounterUIView(std::function<void()> onDismissCallback, QO
           requestAccompanyingFoods(*EnvironmentVariables::shared()->serviceClient(), foodId, context,
                                    std::move(done));
       }),
-      m_showTimer(new QTimer(this))
+      m_showTimer(new QTimer(this)), m_undoTimer(new QTimer(this))
 {
     connect(m_lines, &CalculatorLinesModel::totalChanged, this, &CarbCounterUIView::totalChanged);
+    connect(HostSettings::shared(), &HostSettings::changed, this, &CarbCounterUIView::totalChanged);
+    m_undoTimer->setSingleShot(true);
+    m_undoTimer->setInterval(undoMs);
+    connect(m_undoTimer, &QTimer::timeout, this, [this] { forgetRemoved(); });
     m_showTimer->setSingleShot(true);
     m_showTimer->setTimerType(Qt::PreciseTimer);
     m_showTimer->setInterval(accompanimentDelayMs);
@@ -46,7 +53,41 @@ double CarbCounterUIView::calculateTotal() const
 
 QString CarbCounterUIView::totalText() const
 {
-    return amountText(calculateTotal());
+    return HostSettings::shared()->carbohydrateText(calculateTotal());
+}
+
+QString CarbCounterUIView::totalNote() const
+{
+    const HostOptions &options = HostSettings::shared()->options();
+    if (!options.netCarbohydrates && !options.fatProteinUnits)
+        return {};
+    const MealResult result = mealResult();
+    const auto unknown = [&](std::optional<double> MealLine::*field) {
+        return std::count_if(result.lines.begin(), result.lines.end(),
+                             [&](const MealLine &line) { return !(line.*field).has_value(); });
+    };
+    const auto sum = [&](std::optional<double> MealLine::*field) {
+        double total = 0;
+        for (const MealLine &line : result.lines)
+            total += (line.*field).value_or(0);
+        return total;
+    };
+    QStringList notes;
+    if (options.netCarbohydrates) {
+        const qsizetype missing = unknown(&MealLine::fibre);
+        notes.append(missing == 0 ? netText(result.totalCarbohydrates, sum(&MealLine::fibre))
+                                  : tr("net not known: fibre unknown on %n line(s)", nullptr, int(missing)));
+    }
+    if (options.fatProteinUnits) {
+        const qsizetype missing = std::max(unknown(&MealLine::fat), unknown(&MealLine::protein));
+        const double units = round1(fatProteinUnits(sum(&MealLine::fat), sum(&MealLine::protein)));
+        const int hours = absorptionHours(units);
+        notes.append(missing != 0
+                         ? tr("FPU not known: fat or protein unknown on %n line(s)", nullptr, int(missing))
+                     : hours == 0 ? tr("%1 FPU").arg(units, 0, 'f', 1)
+                                  : tr("%1 FPU · absorbed over %2 h").arg(units, 0, 'f', 1).arg(hours));
+    }
+    return notes.join(u'\n');
 }
 
 QString CarbCounterUIView::counterHeader() const
@@ -67,8 +108,39 @@ void CarbCounterUIView::remove(int index)
         qWarning("CarbCounterUIView: no line %d to remove", index);
         return;
     }
-    items.removeAt(index);
+    const DiaryEntryPtr removed = items.takeAt(index);
     env->setTrackedNutrientListItems(items);
+    if (HostSettings::shared()->undoRemoval()) {
+        m_removed = removed;
+        m_removedIndex = index;
+        m_undoTimer->start();
+        emit undoTextChanged();
+    }
+}
+
+QString CarbCounterUIView::undoText() const
+{
+    return m_removed ? tr("Removed %1").arg(m_removed->title()) : QString();
+}
+
+void CarbCounterUIView::undoRemove()
+{
+    if (!m_removed)
+        return;
+    EnvironmentVariables *env = EnvironmentVariables::shared();
+    QList<DiaryEntryPtr> items = env->TrackedNutrientListItems();
+    items.insert(std::min(m_removedIndex, int(items.size())), m_removed);
+    env->setTrackedNutrientListItems(items);
+    forgetRemoved();
+}
+
+void CarbCounterUIView::forgetRemoved()
+{
+    m_undoTimer->stop();
+    if (!m_removed)
+        return;
+    m_removed.reset();
+    emit undoTextChanged();
 }
 
 void CarbCounterUIView::appear()
@@ -80,6 +152,8 @@ void CarbCounterUIView::appear()
         // A meal editor left open under "Close" never hears its removal; the next opening must not
         // send foods into a meal nobody is composing.
         EnvironmentVariables::shared()->setEditRecipeActive(false);
+        // The host hears what was counted before it hears that the module closed.
+        emit mealResults()->closed(mealResult());
         if (callback)
             callback();
         if (self)

@@ -25,6 +25,11 @@ class CarbCounterUIView : public QObject
     /// The session's lines, in display order, each with its title and amount.
     Q_PROPERTY(nutrika::CalculatorLinesModel *lines READ lines CONSTANT)
     Q_PROPERTY(QString totalText READ totalText NOTIFY totalChanged)
+    /// The host's extra figures for the total: net carbohydrates and fat-protein units, one per line of
+    /// text; "" when the host asked for none.
+    Q_PROPERTY(QString totalNote READ totalNote NOTIFY totalChanged)
+    /// "Removed …" while the last removed line can be put back; "".
+    Q_PROPERTY(QString undoText READ undoText NOTIFY undoTextChanged)
     /// "Total Carbohydrates".
     Q_PROPERTY(QString counterHeader READ counterHeader CONSTANT)
     Q_PROPERTY(bool hasAccompanimentItem READ hasAccompanimentItem NOTIFY accompanimentItemChanged)
@@ -44,6 +49,8 @@ public:
     using AccompanimentRequest = std::function<void(qint64 foodId, QObject *context, FoodsDone done)>;
 
     static constexpr int accompanimentDelayMs = 1000;
+    /// How long a removed line can be put back.
+    static constexpr int undoMs = 6000;
 
     /// For a QML host: the host's callback is the dismissCallback() signal.
     explicit CarbCounterUIView(QObject *parent = nullptr);
@@ -52,6 +59,8 @@ public:
     [[nodiscard]] CalculatorLinesModel *lines() const { return m_lines; }
     [[nodiscard]] double calculateTotal() const;
     [[nodiscard]] QString totalText() const;
+    [[nodiscard]] QString totalNote() const;
+    [[nodiscard]] QString undoText() const;
     [[nodiscard]] QString counterHeader() const;
 
     /// The line at `index`, for the screen that edits it.
@@ -59,6 +68,8 @@ public:
 
     /// Removes the line at `index` from the session; an index out of range changes nothing.
     Q_INVOKABLE void remove(int index);
+    /// Puts the last removed line back at its place, when the host offers undo.
+    Q_INVOKABLE void undoRemove();
     /// The steps run each time the screen is shown.
     Q_INVOKABLE void appear();
 
@@ -89,12 +100,15 @@ signals:
     void showAccompanimentListChanged();
     void previewChanged();
     void inFrontChanged();
+    void undoTextChanged();
     /// The host's callback, for a host that embeds the module in QML.
     void dismissCallback();
     /// The module's presentation should end (the container hides).
     void dismissPresentation();
 
 private:
+    void forgetRemoved();
+
     std::function<void()> m_onDismissCallback;
     CalculatorLinesModel *m_lines;
     AccompanimentRequest m_request;
@@ -104,6 +118,9 @@ private:
     Preview::Value m_preview = Preview::NotPreview;
     bool m_inFront = true;
     QTimer *m_showTimer;
+    DiaryEntryPtr m_removed;
+    int m_removedIndex = 0;
+    QTimer *m_undoTimer;
 };
 
 } // namespace nutrika

@@ -3,7 +3,10 @@
 #include "EnvironmentVariables.h"
 #include "ExampleData.h"
 #include "Formatting.h"
+#include "HostSettings.h"
+#include "MealNutrients.h"
 #include "NutrientsRequest.h"
+#include "Totals.h"
 
 #include <QPointer>
 
@@ -54,6 +57,8 @@ void AddToCalcPreviewUIView::setEntry(DiaryEntryPtr entry, ViewMode mode)
                 &AddToCalcPreviewUIView::carbohydratesChanged),
         connect(m_diaryEntry.data(), &DiaryEntry::portionChanged, this,
                 &AddToCalcPreviewUIView::portionChanged),
+        connect(HostSettings::shared(), &HostSettings::changed, this,
+                &AddToCalcPreviewUIView::carbohydratesChanged),
     };
     emit entryChanged();
     emit portionChanged();
@@ -216,7 +221,10 @@ QString AddToCalcPreviewUIView::carbohydratesText() const
     if (!number)
         q = 0;
     const QString value = shortestDecimalText(q * tracked.value);
-    return withoutPointZero(formatValueWithUnits(value, tracked.unit, int(tracked.dp)));
+    const QString grams = withoutPointZero(formatValueWithUnits(value, tracked.unit, int(tracked.dp)));
+    // The host's unit is taken from the grams the calculator will count for this line.
+    const QString units = carbUnitText(round1(q * tracked.value), HostSettings::shared()->options().carbUnit);
+    return units.isEmpty() ? grams : grams + u" · "_s + units;
 }
 
 QString AddToCalcPreviewUIView::addButtonText() const

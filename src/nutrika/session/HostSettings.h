@@ -1,0 +1,54 @@
+#pragma once
+
+#include "nutrika/MealResult.h"
+
+#include <QObject>
+#include <QString>
+#include <QtQmlIntegration>
+
+class QQmlEngine;
+class QJSEngine;
+
+namespace nutrika {
+
+/// The host's options for the whole process, and the texts the screens show with them. Every option
+/// is off until the host turns it on; with all off, every text is the one the screens had without them.
+class HostSettings : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+    /// "g", "BE", "KE" or "exchanges"; an unknown name is refused with a warning.
+    Q_PROPERTY(QString carbUnit READ carbUnitName WRITE setCarbUnitName NOTIFY changed)
+    Q_PROPERTY(bool netCarbohydrates READ netCarbohydrates WRITE setNetCarbohydrates NOTIFY changed)
+    Q_PROPERTY(bool fatProteinUnits READ fatProteinUnits WRITE setFatProteinUnits NOTIFY changed)
+    Q_PROPERTY(bool undoRemoval READ undoRemoval WRITE setUndoRemoval NOTIFY changed)
+
+public:
+    [[nodiscard]] static HostSettings *shared();
+    static HostSettings *create(QQmlEngine *, QJSEngine *);
+
+    [[nodiscard]] const HostOptions &options() const { return m_options; }
+    void setOptions(const HostOptions &options);
+
+    [[nodiscard]] QString carbUnitName() const;
+    void setCarbUnitName(const QString &name);
+    [[nodiscard]] bool netCarbohydrates() const { return m_options.netCarbohydrates; }
+    void setNetCarbohydrates(bool on);
+    [[nodiscard]] bool fatProteinUnits() const { return m_options.fatProteinUnits; }
+    void setFatProteinUnits(bool on);
+    [[nodiscard]] bool undoRemoval() const { return m_options.undoRemoval; }
+    void setUndoRemoval(bool on);
+
+    /// Rounded grams as the screens show them, with the chosen unit beside: "27 g · 2.7 KE".
+    [[nodiscard]] Q_INVOKABLE QString carbohydrateText(double roundedGrams) const;
+
+signals:
+    void changed();
+
+private:
+    HostSettings() = default;
+    HostOptions m_options;
+};
+
+} // namespace nutrika
