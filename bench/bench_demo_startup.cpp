@@ -60,7 +60,8 @@ int main(int argc, char *argv[])
     const std::vector<std::string> demo{NUTRIKA_DEMO, "--preview", "calculator", "--screenshot", demoPng};
     // The same with every host option on.
     std::vector<std::string> demoOptions = demo;
-    demoOptions.insert(demoOptions.end(), {"--carb-unit", "KE", "--net-carbs", "--fpu", "--undo"});
+    demoOptions.insert(demoOptions.end(),
+                       {"--carb-unit", "KE", "--net-carbs", "--fpu", "--undo", "--recent-foods"});
     const std::vector<std::string> floor{FLOOR_PROGRAM, floorPng};
 
     std::vector<double> demoTime, demoMem, optionsTime, optionsMem, floorTime, floorMem;

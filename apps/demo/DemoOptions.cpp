@@ -77,7 +77,10 @@ std::variant<DemoOptions, int> parseDemoOptions(const QStringList &arguments)
                                       u"Show net carbohydrates (less fibre) beside the grams."_s);
     const QCommandLineOption fpu(u"fpu"_s, u"Show the meal's fat-protein units and absorption time."_s);
     const QCommandLineOption undo(u"undo"_s, u"Offer \"Undo\" after a line is removed."_s);
-    parser.addOptions({preview, screenshot, origin, apiKey, caCert, size, carbUnit, netCarbs, fpu, undo});
+    const QCommandLineOption recent(u"recent-foods"_s,
+                                    u"List the foods lately added before a search is typed."_s);
+    parser.addOptions(
+        {preview, screenshot, origin, apiKey, caCert, size, carbUnit, netCarbs, fpu, undo, recent});
     if (!parser.parse(arguments))
         return usageError(parser.errorText());
     if (parser.isSet(help)) {
@@ -130,5 +133,6 @@ std::variant<DemoOptions, int> parseDemoOptions(const QStringList &arguments)
     options.hostOptions.netCarbohydrates = parser.isSet(netCarbs);
     options.hostOptions.fatProteinUnits = parser.isSet(fpu);
     options.hostOptions.undoRemoval = parser.isSet(undo);
+    options.hostOptions.recentFoods = parser.isSet(recent);
     return options;
 }

@@ -58,6 +58,8 @@ struct HostOptions
     bool fatProteinUnits = false;
     /// Removing a line offers "Undo" for a few seconds.
     bool undoRemoval = false;
+    /// The food search lists the foods lately added, with their last portion, before anything is typed.
+    bool recentFoods = false;
 
     friend bool operator==(const HostOptions &, const HostOptions &) = default;
 };

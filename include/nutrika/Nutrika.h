@@ -71,8 +71,8 @@ private:
 /// Prepares a host's own QML engine so that `import Nutrika` works. The root item is NutrikaRoot; its
 /// `apiKey` and `serviceOrigin` properties set the key and the origin, `mealResult` holds the result
 /// (lines, totalCarbohydrates), `closedWith(mealResult)` is signalled on "Close", `clearCalculator()`
-/// empties it, and `carbUnit` ("g", "BE", "KE", "exchanges"), `netCarbohydrates`, `fatProteinUnits` and
-/// `undoRemoval` are the host options.
+/// empties it, and `carbUnit` ("g", "BE", "KE", "exchanges"), `netCarbohydrates`, `fatProteinUnits`,
+/// `undoRemoval` and `recentFoods` are the host options.
 void prepareNutrikaEngine(QQmlEngine &engine);
 
 /// A host-side controller: prints "View did load" when first shown. onClose() closes it first and

@@ -19,7 +19,7 @@ class SessionProbe : public QObject
 public:
     [[nodiscard]] QString screenshotDir() const { return qEnvironmentVariable("NUTRIKA_SCREENSHOT_DIR"); }
 
-    /// As in a fresh process: an empty calculator, every flag down, no saved meals.
+    /// As in a fresh process: an empty calculator, every flag down, no saved meals and no recent foods.
     Q_INVOKABLE void reset()
     {
         nutrika::EnvironmentVariables *env = nutrika::EnvironmentVariables::shared();
@@ -31,6 +31,7 @@ public:
         env->setEditRecipeActive(false);
         nutrika::Preferences preferences;
         preferences.remove(QStringLiteral("recipes"));
+        preferences.remove(QStringLiteral("recentFoods"));
         preferences.sync();
     }
 

@@ -25,6 +25,14 @@ ScreenTestCase {
         }
     }
 
+    Component {
+        id: recentRoot
+        NutrikaRoot {
+            anchors.fill: parent
+            recentFoods: true
+        }
+    }
+
     SignalSpy {
         id: closedSpy
         signalName: "closedWith"
@@ -41,6 +49,7 @@ ScreenTestCase {
         HostSettings.netCarbohydrates = false
         HostSettings.fatProteinUnits = false
         HostSettings.undoRemoval = false
+        HostSettings.recentFoods = false
     }
 
     function mediumBananaHas(nutrient) { return ServiceProbe.nutrient(bananaId, 118, "grams", nutrient) }
@@ -130,6 +139,39 @@ ScreenTestCase {
         root.clearCalculator()
         compare(root.mealResult.lines.length, 0)
         compare(root.mealResult.totalCarbohydrates, 0)
+    }
+
+    // A food added once is offered again before anything is typed; one tap takes its last portion
+    // through the preview.
+    function test_aRecentFoodIsAddedAgainThroughThePreview() {
+        const root = createTemporaryObject(recentRoot, testCase)
+        let container = settle(root.navigation, 2)
+        verify(!findChild(container, "recentFoods").visible)
+        tapFood(container, "Bananas, raw", "banana")
+        const portions = settle(root.navigation, 3)
+        mouseClick(portionBox(portions, mediumBanana))
+        mouseClick(findChild(portions, "selectPortionButton"))
+        let preview = settle(root.navigation, 4)
+        tryVerify(() => findChild(preview, "carbohydratesValue").text !== "", 5000)
+        mouseClick(findChild(preview, "addButton"))
+        settle(root.navigation, 1)
+        const detail = lineDetails(root)[0]
+
+        mouseClick(findChild(root, "searchMoreButton"))
+        container = settle(root.navigation, 2)
+        const recent = findChild(container, "recentFoods")
+        tryVerify(() => recent.visible)
+        const row = findChild(recent, "recentFood")
+        compare(row.Accessible.name, "Bananas, raw, " + detail)
+        shoot(container, "search-recent-foods")
+        mouseClick(row)
+        preview = settle(root.navigation, 3)
+        const carbs = round1(mediumBananaHas("Carbohydrates"))
+        tryCompare(findChild(preview, "carbohydratesValue"), "text", carbs + "g", 5000)
+        mouseClick(findChild(preview, "addButton"))
+        settle(root.navigation, 1)
+        compare(lineAmounts(root), [grams(carbs), grams(carbs)])
+        compare(lineDetails(root), [detail, detail])
     }
 
     // Every option off: the texts are the calculator's own, with nothing beside them.

@@ -16,6 +16,7 @@ FocusScope {
     property alias netCarbohydrates: options.netCarbohydrates
     property alias fatProteinUnits: options.fatProteinUnits
     property alias undoRemoval: options.undoRemoval
+    property alias recentFoods: options.recentFoods
     // The calculator's lines and total: {lines: [{name, portion, quantity, carbohydrates, fibre, fat,
     // protein}], totalCarbohydrates}; an unknown nutrient is null.
     readonly property var mealResult: NutrikaHost.mealResult
@@ -34,10 +35,12 @@ FocusScope {
         property bool netCarbohydrates: HostSettings.netCarbohydrates
         property bool fatProteinUnits: HostSettings.fatProteinUnits
         property bool undoRemoval: HostSettings.undoRemoval
+        property bool recentFoods: HostSettings.recentFoods
         onCarbUnitChanged: HostSettings.carbUnit = carbUnit
         onNetCarbohydratesChanged: HostSettings.netCarbohydrates = netCarbohydrates
         onFatProteinUnitsChanged: HostSettings.fatProteinUnits = fatProteinUnits
         onUndoRemovalChanged: HostSettings.undoRemoval = undoRemoval
+        onRecentFoodsChanged: HostSettings.recentFoods = recentFoods
     }
 
     Connections {

@@ -27,6 +27,13 @@ std::optional<double> roundedOrAbsent(const std::optional<double> &value)
 
 } // namespace
 
+QString portionText(const PortionItem &portion)
+{
+    const QString weight = QString::number(portion.size) + u' ' + formatUnitShort(portion.unit).trimmed();
+    // A custom amount is its weight alone; its portion record describes nothing the person chose.
+    return portion.id == basePortionItem().id ? weight : portion.description + u" · "_s + weight;
+}
+
 QString entryDetail(const DiaryEntry &entry)
 {
     const qint64 quantity = entry.quantity();
@@ -41,10 +48,7 @@ QString entryDetail(const DiaryEntry &entry)
     }
     if (!entry.portion())
         return {};
-    const PortionItem &portion = *entry.portion();
-    const QString weight = QString::number(portion.size) + u' ' + formatUnitShort(portion.unit).trimmed();
-    // A custom amount is its weight alone; its portion record describes nothing the person chose.
-    QString detail = portion.id == basePortionItem().id ? weight : portion.description + u" · "_s + weight;
+    QString detail = portionText(*entry.portion());
     if (quantity > 1)
         detail += u" × "_s + QString::number(quantity);
     return detail;

@@ -14,6 +14,9 @@ inline const QString FIBRE_NUTRIENT = QStringLiteral("Fibre (AOAC)");
 inline const QString FAT_NUTRIENT = QStringLiteral("Fat");
 inline const QString PROTEIN_NUTRIENT = QStringLiteral("Protein");
 
+/// A portion and its weight, "1 medium · 118 g", or a custom amount's weight alone, "50 g".
+[[nodiscard]] QString portionText(const PortionItem &portion);
+
 /// What the line counts, so a person can check it before dosing: the portion and its weight, times
 /// the quantity above 1 ("1 medium · 118 g × 2"), or a meal's servings ("1 serving of 2").
 [[nodiscard]] QString entryDetail(const DiaryEntry &entry);

@@ -86,6 +86,13 @@ void HostSettings::setUndoRemoval(bool on)
     setOptions(options);
 }
 
+void HostSettings::setRecentFoods(bool on)
+{
+    HostOptions options = m_options;
+    options.recentFoods = on;
+    setOptions(options);
+}
+
 QString HostSettings::carbohydrateText(double roundedGrams) const
 {
     return nutrika::carbohydrateText(roundedGrams, m_options.carbUnit);

@@ -23,6 +23,7 @@ class HostSettings : public QObject
     Q_PROPERTY(bool netCarbohydrates READ netCarbohydrates WRITE setNetCarbohydrates NOTIFY changed)
     Q_PROPERTY(bool fatProteinUnits READ fatProteinUnits WRITE setFatProteinUnits NOTIFY changed)
     Q_PROPERTY(bool undoRemoval READ undoRemoval WRITE setUndoRemoval NOTIFY changed)
+    Q_PROPERTY(bool recentFoods READ recentFoods WRITE setRecentFoods NOTIFY changed)
 
 public:
     [[nodiscard]] static HostSettings *shared();
@@ -39,6 +40,8 @@ public:
     void setFatProteinUnits(bool on);
     [[nodiscard]] bool undoRemoval() const { return m_options.undoRemoval; }
     void setUndoRemoval(bool on);
+    [[nodiscard]] bool recentFoods() const { return m_options.recentFoods; }
+    void setRecentFoods(bool on);
 
     /// Rounded grams as the screens show them, with the chosen unit beside: "27 g · 2.7 KE".
     [[nodiscard]] Q_INVOKABLE QString carbohydrateText(double roundedGrams) const;

@@ -3,16 +3,12 @@
 #include "Diagnostics.h"
 #include "Preferences.h"
 #include "RecipeDocument.h"
+#include "StoreLock.h"
 
-#include <cerrno>
-#include <fcntl.h>
 #include <QDateTime>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <sys/file.h>
-#include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -39,44 +35,6 @@ StoredMeals storedMeals(const Preferences &settings)
     if (stored.typeId() != QMetaType::QByteArray)
         return {{}, stored.isValid()};
     return {stored.toByteArray(), false};
-}
-
-/// Lets one save at a time, across processes, read, change and write the document; otherwise two
-/// processes saving at once would each write back a list without the other's meal. The file is never
-/// removed, so every saver locks the same one, and the kernel releases the lock of a killed holder.
-class SaveLock
-{
-public:
-    explicit SaveLock(const QString &settingsFile)
-    {
-        QDir().mkpath(QFileInfo(settingsFile).absolutePath());
-        m_fd = ::open(QFile::encodeName(settingsFile + u".save-lock"_s).constData(),
-                      O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-        while (m_fd >= 0 && ::flock(m_fd, LOCK_EX) != 0 && errno == EINTR) {
-        }
-    }
-    ~SaveLock()
-    {
-        if (m_fd >= 0)
-            ::close(m_fd);
-    }
-    Q_DISABLE_COPY_MOVE(SaveLock)
-
-private:
-    int m_fd = -1;
-};
-
-// QSettings creates its lock file empty and writes the owner into it a moment later. A process killed in
-// between leaves an empty file that would stall the next save for half a minute. Every writer of the
-// file holds the save lock, so while we hold it no one is in that moment, and an empty lock file whose
-// flock we can take is abandoned.
-void removeAbandonedLock(const QString &settingsFile)
-{
-    QFile lock(settingsFile + u".lock"_s);
-    if (!lock.open(QIODevice::ReadOnly) || lock.size() != 0)
-        return;
-    if (::flock(lock.handle(), LOCK_EX | LOCK_NB) == 0)
-        lock.remove();
 }
 
 /// Copies the whole settings file beside it under a dated name before a save writes over meals that could

@@ -25,13 +25,14 @@ int main(int argc, char *argv[])
     auto *view = module->findChild<QQuickWidget *>();
     if (!view || !view->rootObject())
         return 1;
-    nutrika::setHostOptions({nutrika::CarbUnit::KE, true, true, true});
+    nutrika::setHostOptions({nutrika::CarbUnit::KE, true, true, true, true});
     searchAndExit(view->rootObject(), QStringLiteral("banana"));
     const int status = QApplication::exec();
     // What a bolus calculator would read; nothing was added, so nothing is counted.
     const nutrika::MealResult result = nutrika::mealResults()->result();
     std::printf("result: %lld lines, %g g, unit KE %s\n", static_cast<long long>(result.lines.size()),
-                result.totalCarbohydrates, nutrika::hostOptions().carbUnit == nutrika::CarbUnit::KE ? "kept" : "lost");
+                result.totalCarbohydrates,
+                nutrika::hostOptions().carbUnit == nutrika::CarbUnit::KE ? "kept" : "lost");
     delete module;
     return status;
 }

@@ -6,6 +6,7 @@
 #include "HostSettings.h"
 #include "MealNutrients.h"
 #include "NutrientsRequest.h"
+#include "RecentFoods.h"
 #include "Totals.h"
 
 #include <QPointer>
@@ -136,6 +137,8 @@ void AddToCalcPreviewUIView::add()
         return;
     }
     env->setTrackedNutrientListItems(QList(env->TrackedNutrientListItems()) << m_diaryEntry);
+    if (HostSettings::shared()->recentFoods() && m_diaryEntry->foodItem() && m_diaryEntry->portion())
+        rememberRecentFood(*m_diaryEntry->foodItem(), *m_diaryEntry->portion());
     env->setSearchActive(false);
     env->setAccompanimentsActive(false);
     env->setFoodItemForAccompaniments(m_diaryEntry->foodItem());

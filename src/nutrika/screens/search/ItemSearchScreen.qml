@@ -96,6 +96,34 @@ FocusScope {
             Accessible.name: text
         }
 
+        // When the host lists them: the foods lately added, each opening its last portion's preview.
+        Column {
+            id: recent
+            objectName: "recentFoods"
+            Layout.fillWidth: true
+            visible: screen.uiView.debouncedText === "" && screen.uiView.recentFoods.length > 0
+            Accessible.role: Accessible.List
+            Accessible.name: qsTr("Recent foods")
+
+            ListHeader {
+                width: recent.width
+                title: qsTr("Recent foods")
+            }
+            Repeater {
+                model: screen.uiView.recentFoods
+                // qmllint disable unqualified
+                delegate: FoodResultRow {
+                    required property var modelData
+                    objectName: "recentFood"
+                    width: recent.width
+                    title: modelData.title
+                    brand: modelData.detail
+                    onOpened: recentLink.open(modelData)
+                }
+                // qmllint enable unqualified
+            }
+        }
+
         Text {
             objectName: "filterResetHint"
             Layout.fillWidth: true
@@ -207,6 +235,28 @@ FocusScope {
     }
     Connections {
         target: EnvironmentVariables
-        function onPortionActiveChanged() { portionLink.rearm() }
+        function onPortionActiveChanged() {
+            portionLink.rearm()
+            // The preview's "Search more foods" closes the portion flow, which a recent food skipped.
+            if (EnvironmentVariables.portionActive === -1) // qmllint disable type
+                recentLink.active = false
+        }
+    }
+
+    // A recent food goes straight to the preview of its last portion.
+    NavigationLink {
+        id: recentLink
+        function open(recent) {
+            properties = { selectedFood: recent.food, selectedPortion: recent.portion }
+            active = true
+        }
+        navigation: screen.navigation
+        destination: Destinations.AddToCalcPreview
+        onDismissed: active = false
+    }
+    Component.onCompleted: uiView.loadRecentFoods()
+    Connections {
+        target: HostSettings
+        function onChanged() { screen.uiView.loadRecentFoods() }
     }
 }

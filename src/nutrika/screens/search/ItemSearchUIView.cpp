@@ -2,6 +2,9 @@
 
 #include "EnvironmentVariables.h"
 #include "FilterOptionsRequest.h"
+#include "HostSettings.h"
+#include "MealNutrients.h"
+#include "RecentFoods.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -158,6 +161,20 @@ void ItemSearchUIView::setLoading(bool loading)
 {
     m_isLoading = loading;
     emit isLoadingChanged();
+}
+
+void ItemSearchUIView::loadRecentFoods()
+{
+    m_recentFoods.clear();
+    if (HostSettings::shared()->recentFoods() && !EnvironmentVariables::shared()->editRecipeActive()) {
+        for (const RecentFood &recent : nutrika::recentFoods()) {
+            m_recentFoods.append(QVariantMap{{u"food"_s, QVariant::fromValue(recent.food)},
+                                             {u"portion"_s, QVariant::fromValue(recent.portion)},
+                                             {u"title"_s, recent.food.description},
+                                             {u"detail"_s, portionText(recent.portion)}});
+        }
+    }
+    emit recentFoodsChanged();
 }
 
 } // namespace nutrika

@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QStringList>
 #include <QtQmlIntegration>
+#include <QVariantList>
 
 namespace nutrika {
 
@@ -41,6 +42,8 @@ class ItemSearchUIView : public QObject
     Q_PROPERTY(qint64 offset READ offset NOTIFY offsetChanged)
     /// The food whose row was tapped last; its portion screen is pushed while portionActive names it.
     Q_PROPERTY(nutrika::FoodItem selectedFood READ selectedFood NOTIFY selectedFoodChanged)
+    /// When the host lists them, the foods lately added to the calculator: {food, portion, title, detail}.
+    Q_PROPERTY(QVariantList recentFoods READ recentFoods NOTIFY recentFoodsChanged)
 
 public:
     static inline const QString ALL_BRANDS = u"All Brands"_s;
@@ -62,6 +65,9 @@ public:
     /// Opens the portion screen for the food at `row` of the results.
     Q_INVOKABLE void selectRow(int row);
     void showError(const QString &body, const QString &title);
+    /// Reads the recent foods again; none while a meal collects its ingredients or the host lists none.
+    Q_INVOKABLE void loadRecentFoods();
+    [[nodiscard]] const QVariantList &recentFoods() const { return m_recentFoods; }
 
     [[nodiscard]] const QString &debouncedText() const { return m_debouncedText; }
     [[nodiscard]] bool isLoading() const { return m_isLoading; }
@@ -86,6 +92,7 @@ public:
     [[nodiscard]] const FoodItem &selectedFood() const { return m_selectedFood; }
 
 signals:
+    void recentFoodsChanged();
     void debouncedTextChanged();
     void isLoadingChanged();
     void numSearchResultsChanged();
@@ -125,6 +132,7 @@ private:
     // The filter options depend on the text alone: only a new text makes their reply stale.
     quint64 m_textGeneration = 0;
     std::optional<qint64> m_pageInFlight;
+    QVariantList m_recentFoods;
 };
 
 } // namespace nutrika
