@@ -79,8 +79,11 @@ std::variant<DemoOptions, int> parseDemoOptions(const QStringList &arguments)
     const QCommandLineOption undo(u"undo"_s, u"Offer \"Undo\" after a line is removed."_s);
     const QCommandLineOption recent(u"recent-foods"_s,
                                     u"List the foods lately added before a search is typed."_s);
+    const QCommandLineOption language(
+        u"language"_s, u"Show the module in <language>: de, fr or en (the system's unless given)."_s,
+        u"language"_s);
     parser.addOptions(
-        {preview, screenshot, origin, apiKey, caCert, size, carbUnit, netCarbs, fpu, undo, recent});
+        {preview, screenshot, origin, apiKey, caCert, size, carbUnit, netCarbs, fpu, undo, recent, language});
     if (!parser.parse(arguments))
         return usageError(parser.errorText());
     if (parser.isSet(help)) {
@@ -134,5 +137,6 @@ std::variant<DemoOptions, int> parseDemoOptions(const QStringList &arguments)
     options.hostOptions.fatProteinUnits = parser.isSet(fpu);
     options.hostOptions.undoRemoval = parser.isSet(undo);
     options.hostOptions.recentFoods = parser.isSet(recent);
+    options.hostOptions.language = parser.value(language);
     return options;
 }

@@ -60,6 +60,9 @@ struct HostOptions
     bool undoRemoval = false;
     /// The food search lists the foods lately added, with their last portion, before anything is typed.
     bool recentFoods = false;
+    /// The language of the screens: "de" or "fr" (translations ship for both), "en"; empty follows the
+    /// system's locale. The English texts are the module's own, and numbers keep their decimal point.
+    QString language;
 
     friend bool operator==(const HostOptions &, const HostOptions &) = default;
 };

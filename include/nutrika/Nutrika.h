@@ -72,7 +72,7 @@ private:
 /// `apiKey` and `serviceOrigin` properties set the key and the origin, `mealResult` holds the result
 /// (lines, totalCarbohydrates), `closedWith(mealResult)` is signalled on "Close", `clearCalculator()`
 /// empties it, and `carbUnit` ("g", "BE", "KE", "exchanges"), `netCarbohydrates`, `fatProteinUnits`,
-/// `undoRemoval` and `recentFoods` are the host options.
+/// `undoRemoval`, `recentFoods` and `language` are the host options.
 void prepareNutrikaEngine(QQmlEngine &engine);
 
 /// A host-side controller: prints "View did load" when first shown. onClose() closes it first and

@@ -2,10 +2,12 @@
 
 #include "CarbCounterUIView.h"
 #include "EnvironmentVariables.h"
+#include "HostSettings.h"
 #include "ItemTeardown.h"
 #include "Look.h"
 #include "SymbolIcons.h"
 
+#include <QCoreApplication>
 #include <QFontDatabase>
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -42,6 +44,13 @@ public:
 void prepareNutrikaEngine(QQmlEngine &engine)
 {
     engine.addImportPath(u"qrc:/qt/qml"_s);
+    // The screens' texts are translated as they are built: the language comes before any of them.
+    static const bool languageApplied = [] {
+        HostSettings::shared()->applyLanguage();
+        return true;
+    }();
+    (void)languageApplied;
+    HostSettings::shared()->addEngine(&engine);
     // Adding a font drops every font engine already built, so the icon font comes before any text is
     // laid out; and after the system fonts are listed, or their WOFF2 copy of it would win.
     (void)QFontDatabase::families();
@@ -54,7 +63,7 @@ QWidget *initNutrika(const QString &apiKey, std::function<void()> onDismissCallb
 
     auto *container = new QWidget;
     container->setWindowTitle(u"Nutrika"_s);
-    container->setAccessibleName(u"Nutrika carbohydrate calculator"_s);
+    container->setAccessibleName(QCoreApplication::translate("Nutrika", "Nutrika carbohydrate calculator"));
     auto *view = new ModuleView(container);
     // A child of the view, so it outlives the QML root that the view deletes first.
     auto *calculator = new CarbCounterUIView(std::move(onDismissCallback), view);

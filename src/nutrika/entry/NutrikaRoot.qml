@@ -17,6 +17,8 @@ FocusScope {
     property alias fatProteinUnits: options.fatProteinUnits
     property alias undoRemoval: options.undoRemoval
     property alias recentFoods: options.recentFoods
+    // "de", "fr" or "en"; empty follows the system's locale.
+    property alias language: options.language
     // The calculator's lines and total: {lines: [{name, portion, quantity, carbohydrates, fibre, fat,
     // protein}], totalCarbohydrates}; an unknown nutrient is null.
     readonly property var mealResult: NutrikaHost.mealResult
@@ -36,11 +38,13 @@ FocusScope {
         property bool fatProteinUnits: HostSettings.fatProteinUnits
         property bool undoRemoval: HostSettings.undoRemoval
         property bool recentFoods: HostSettings.recentFoods
+        property string language: HostSettings.language
         onCarbUnitChanged: HostSettings.carbUnit = carbUnit
         onNetCarbohydratesChanged: HostSettings.netCarbohydrates = netCarbohydrates
         onFatProteinUnitsChanged: HostSettings.fatProteinUnits = fatProteinUnits
         onUndoRemovalChanged: HostSettings.undoRemoval = undoRemoval
         onRecentFoodsChanged: HostSettings.recentFoods = recentFoods
+        onLanguageChanged: HostSettings.language = language
     }
 
     Connections {

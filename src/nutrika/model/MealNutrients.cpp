@@ -88,7 +88,7 @@ QString carbUnitText(double roundedGrams, CarbUnit unit)
     case CarbUnit::KE:
         return figure(10, u"KE"_s);
     case CarbUnit::Exchanges:
-        return figure(15, u"exch."_s);
+        return figure(15, QCoreApplication::translate("MealNutrients", "exch."));
     }
     return {};
 }
@@ -101,7 +101,8 @@ QString carbohydrateText(double roundedGrams, CarbUnit unit)
 
 QString netText(double roundedGrams, double fibre)
 {
-    return u"net "_s + amountText(round1(std::max(0.0, roundedGrams - round1(fibre))));
+    return QCoreApplication::translate("MealNutrients", "net %1")
+        .arg(amountText(round1(std::max(0.0, roundedGrams - round1(fibre)))));
 }
 
 double fatProteinUnits(double fat, double protein)

@@ -1,5 +1,7 @@
 #include "ServiceFailure.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace nutrika {
@@ -7,8 +9,11 @@ namespace nutrika {
 FailureMessage failureMessage(ServiceFailure failure)
 {
     if (failure == ServiceFailure::ConnectionFailure)
-        return {u"Connection Error"_s, u"Unable to connect to server, try again later"_s};
-    return {u"Error"_s, u"Error loading data"_s};
+        return {
+            QCoreApplication::translate("ServiceFailure", "Connection Error"),
+            QCoreApplication::translate("ServiceFailure", "Unable to connect to server, try again later")};
+    return {QCoreApplication::translate("ServiceFailure", "Error"),
+            QCoreApplication::translate("ServiceFailure", "Error loading data")};
 }
 
 ServiceFailure failureOf(const ServiceReply &reply)

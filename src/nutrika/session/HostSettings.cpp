@@ -3,7 +3,11 @@
 #include "MealNutrients.h"
 
 #include <array>
+#include <memory>
+#include <QCoreApplication>
+#include <QLocale>
 #include <QQmlEngine>
+#include <QTranslator>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -39,8 +43,44 @@ void HostSettings::setOptions(const HostOptions &options)
 {
     if (options == m_options)
         return;
+    const bool newLanguage = options.language != m_options.language;
     m_options = options;
+    if (newLanguage)
+        applyLanguage();
     emit changed();
+}
+
+void HostSettings::setLanguage(const QString &language)
+{
+    HostOptions options = m_options;
+    options.language = language;
+    setOptions(options);
+}
+
+void HostSettings::applyLanguage()
+{
+    if (m_translator) {
+        QCoreApplication::removeTranslator(m_translator);
+        delete m_translator;
+        m_translator = nullptr;
+    }
+    const QLocale locale = m_options.language.isEmpty() ? QLocale::system() : QLocale(m_options.language);
+    auto translator = std::make_unique<QTranslator>();
+    // English has no file: its texts are the sources.
+    if (translator->load(locale, u"nutrika"_s, u"_"_s, u":/i18n"_s) &&
+        QCoreApplication::installTranslator(translator.get()))
+        m_translator = translator.release();
+    for (const QPointer<QQmlEngine> &engine : std::as_const(m_engines)) {
+        if (engine)
+            engine->retranslate();
+    }
+}
+
+void HostSettings::addEngine(QQmlEngine *engine)
+{
+    m_engines.removeAll(nullptr);
+    if (!m_engines.contains(engine))
+        m_engines.append(engine);
 }
 
 QString HostSettings::carbUnitName() const

@@ -2,12 +2,15 @@
 
 #include "nutrika/MealResult.h"
 
+#include <QList>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 #include <QtQmlIntegration>
 
 class QQmlEngine;
 class QJSEngine;
+class QTranslator;
 
 namespace nutrika {
 
@@ -24,6 +27,7 @@ class HostSettings : public QObject
     Q_PROPERTY(bool fatProteinUnits READ fatProteinUnits WRITE setFatProteinUnits NOTIFY changed)
     Q_PROPERTY(bool undoRemoval READ undoRemoval WRITE setUndoRemoval NOTIFY changed)
     Q_PROPERTY(bool recentFoods READ recentFoods WRITE setRecentFoods NOTIFY changed)
+    Q_PROPERTY(QString language READ language WRITE setLanguage NOTIFY changed)
 
 public:
     [[nodiscard]] static HostSettings *shared();
@@ -42,6 +46,13 @@ public:
     void setUndoRemoval(bool on);
     [[nodiscard]] bool recentFoods() const { return m_options.recentFoods; }
     void setRecentFoods(bool on);
+    [[nodiscard]] const QString &language() const { return m_options.language; }
+    void setLanguage(const QString &language);
+
+    /// Installs the translation of the chosen language, or of the system's locale, in place of the one
+    /// before, and has every engine prepared for the module translate its screens again.
+    void applyLanguage();
+    void addEngine(QQmlEngine *engine);
 
     /// Rounded grams as the screens show them, with the chosen unit beside: "27 g · 2.7 KE".
     [[nodiscard]] Q_INVOKABLE QString carbohydrateText(double roundedGrams) const;
@@ -52,6 +63,8 @@ signals:
 private:
     HostSettings() = default;
     HostOptions m_options;
+    QTranslator *m_translator = nullptr;
+    QList<QPointer<QQmlEngine>> m_engines;
 };
 
 } // namespace nutrika

@@ -51,8 +51,11 @@ Rectangle {
         Text {
             objectName: "totalNote"
             anchors.right: parent.right
+            // Beside "Total", never over it.
+            width: Math.min(implicitWidth, row.width - row.rightInset - 90)
             visible: text !== ""
             text: row.note
+            wrapMode: Text.Wrap
             horizontalAlignment: Text.AlignRight
             font.pixelSize: Look.calloutSize
             color: Look.titleText

@@ -76,14 +76,14 @@ QString CarbCounterUIView::totalNote() const
     if (options.netCarbohydrates) {
         const qsizetype missing = unknown(&MealLine::fibre);
         notes.append(missing == 0 ? netText(result.totalCarbohydrates, sum(&MealLine::fibre))
-                                  : tr("net not known: fibre unknown on %n line(s)", nullptr, int(missing)));
+                                  : tr("net unknown: %n line(s) without fibre", nullptr, int(missing)));
     }
     if (options.fatProteinUnits) {
         const qsizetype missing = std::max(unknown(&MealLine::fat), unknown(&MealLine::protein));
         const double units = round1(fatProteinUnits(sum(&MealLine::fat), sum(&MealLine::protein)));
         const int hours = absorptionHours(units);
         notes.append(missing != 0
-                         ? tr("FPU not known: fat or protein unknown on %n line(s)", nullptr, int(missing))
+                         ? tr("FPU unknown: %n line(s) without fat or protein", nullptr, int(missing))
                      : hours == 0 ? tr("%1 FPU").arg(units, 0, 'f', 1)
                                   : tr("%1 FPU · absorbed over %2 h").arg(units, 0, 'f', 1).arg(hours));
     }
@@ -92,7 +92,8 @@ QString CarbCounterUIView::totalNote() const
 
 QString CarbCounterUIView::counterHeader() const
 {
-    return u"Total "_s + COUNTER_TYPE;
+    // The nutrient's name is the service's, shown translated.
+    return tr("Total %1").arg(tr("Carbohydrates"));
 }
 
 DiaryEntry *CarbCounterUIView::line(int index) const

@@ -116,7 +116,7 @@ void CreateRecipeUIView::appear()
     if (m_preview != NotPreview) {
         switch (m_preview) {
         case PreviewCreate:
-            open(DiaryEntryPtr::create(123, RecipeItem{u"New Meal"_s, -1, {}, 1}, 1), New, Select, u"1"_s);
+            open(DiaryEntryPtr::create(123, RecipeItem{tr("New Meal"), -1, {}, 1}, 1), New, Select, u"1"_s);
             break;
         case PreviewEdit:
             open(DiaryEntryPtr::create(123, example::exampleRecipe(), 1), Edit, Select, u"1"_s);
@@ -330,9 +330,9 @@ QString CreateRecipeUIView::headerLinkText() const
         return {};
     case View:
     case Select:
-        return u"Edit"_s;
+        return tr("Edit");
     case Edit:
-        return u"Cancel"_s;
+        return tr("Cancel");
     }
     return {};
 }

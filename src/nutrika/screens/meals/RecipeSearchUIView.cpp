@@ -4,6 +4,8 @@
 #include "ExampleData.h"
 #include "RecipeStore.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace nutrika {
@@ -37,7 +39,9 @@ void RecipeSearchUIView::onFinishTyping(const QString &text)
 
 DiaryEntryPtr RecipeSearchUIView::newMealEntry()
 {
-    return DiaryEntryPtr::create(123, RecipeItem{u"New Meal"_s, -1, {}, 1}, 1);
+    return DiaryEntryPtr::create(
+        123, RecipeItem{QCoreApplication::translate("nutrika::CreateRecipeUIView", "New Meal"), -1, {}, 1},
+        1);
 }
 
 DiaryEntryPtr RecipeSearchUIView::savedMealEntry(const RecipeItem &meal)

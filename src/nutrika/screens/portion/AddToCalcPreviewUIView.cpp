@@ -232,7 +232,7 @@ QString AddToCalcPreviewUIView::carbohydratesText() const
 
 QString AddToCalcPreviewUIView::addButtonText() const
 {
-    return EnvironmentVariables::shared()->editRecipeActive() ? u"Add to meal"_s : u"Add to calculator"_s;
+    return EnvironmentVariables::shared()->editRecipeActive() ? tr("Add to meal") : tr("Add to calculator");
 }
 
 } // namespace nutrika

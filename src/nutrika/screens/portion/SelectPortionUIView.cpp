@@ -29,7 +29,7 @@ SelectPortionUIView::SelectPortionUIView(QObject *parent) : QObject(parent), m_c
 
 QStringList SelectPortionUIView::options() const
 {
-    return {u"Images"_s, u"Descriptions"_s};
+    return {tr("Images"), tr("Descriptions")};
 }
 
 void SelectPortionUIView::appear()

@@ -45,7 +45,7 @@ Rectangle {
         // Disabled is told by a lighter grey that still reads, not by fading the text.
         Text {
             objectName: "filterLabel"
-            text: filter.selectedFilterItem === "" ? filter.title : filter.selectedFilterItem
+            text: filter.selectedFilterItem === "" ? filter.title : qsTranslate("ItemSearchUIView", filter.selectedFilterItem)
             font.pixelSize: Look.captionSize
             font.bold: true
             color: filter.enabledForText ? "#595959" : Look.lightGray
@@ -148,7 +148,8 @@ Rectangle {
                         anchors.fill: parent
                         onClicked: filter.choose(option.modelData)
                     }
-                    text: modelData
+                    // "All Brands" and "All Categories" in the person's language; brands as the service names them.
+                    text: qsTranslate("ItemSearchUIView", modelData)
                     font.pixelSize: Look.bodySize
                     color: "black"
                     opacity: 1.0 - Math.abs(Tumbler.displacement) / (Tumbler.tumbler.visibleItemCount / 2)

@@ -6,6 +6,8 @@
 #include "MealNutrients.h"
 #include "RecentFoods.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace nutrika {
@@ -127,16 +129,17 @@ QString ItemSearchUIView::countText() const
 {
     if (m_debouncedText.isEmpty())
         return {};
-    return u"%1 %2 matching your search"_s.arg(QString::number(m_numSearchResults),
-                                               m_numSearchResults == 1 ? u"item"_s : u"items"_s);
+    return tr("%1 %2 matching your search")
+        .arg(QString::number(m_numSearchResults), m_numSearchResults == 1 ? tr("item") : tr("items"));
 }
 
 QString ItemSearchUIView::filterResetHint() const
 {
     if (m_debouncedText.isEmpty() || m_numSearchResults != 0 || !m_countFiltered)
         return {};
-    return u"A brand or category filter is set. Choose “%1” or “%2” to search without it."_s.arg(
-        ALL_BRANDS, ALL_CATEGORIES);
+    return tr("A brand or category filter is set. Choose “%1” or “%2” to search without it.")
+        .arg(QCoreApplication::translate("ItemSearchUIView", ALL_BRANDS.toUtf8().constData()),
+             QCoreApplication::translate("ItemSearchUIView", ALL_CATEGORIES.toUtf8().constData()));
 }
 
 void ItemSearchUIView::setBrandFilterValue(const QString &value)

@@ -46,8 +46,11 @@ class ItemSearchUIView : public QObject
     Q_PROPERTY(QVariantList recentFoods READ recentFoods NOTIFY recentFoodsChanged)
 
 public:
-    static inline const QString ALL_BRANDS = u"All Brands"_s;
-    static inline const QString ALL_CATEGORIES = u"All Categories"_s;
+    // Filter values as well as labels: the screens show them through qsTranslate("ItemSearchUIView", …).
+    static inline const QString ALL_BRANDS =
+        QString::fromUtf8(QT_TRANSLATE_NOOP("ItemSearchUIView", "All Brands"));
+    static inline const QString ALL_CATEGORIES =
+        QString::fromUtf8(QT_TRANSLATE_NOOP("ItemSearchUIView", "All Categories"));
 
     explicit ItemSearchUIView(QObject *parent = nullptr);
 

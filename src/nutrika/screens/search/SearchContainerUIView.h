@@ -20,7 +20,7 @@ class SearchContainerUIView : public QObject
 public:
     using QObject::QObject;
 
-    [[nodiscard]] QStringList options() const { return {u"Search"_s, u"Meals"_s}; }
+    [[nodiscard]] QStringList options() const { return {tr("Search"), tr("Meals")}; }
     [[nodiscard]] int tabOption() const { return m_tabOption; }
     void setTabOption(int tab);
 

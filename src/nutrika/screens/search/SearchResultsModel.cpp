@@ -28,7 +28,7 @@ QVariant SearchResultsModel::data(const QModelIndex &index, int role) const
     case IsPlaceholderRole:
         return food == nullptr;
     case SectionRole:
-        return inBranded ? u"Branded"_s : u"Non-Branded"_s;
+        return inBranded ? tr("Branded") : tr("Non-Branded");
     case TitleRole:
         return food ? food->description : QString();
     case BrandRole:
