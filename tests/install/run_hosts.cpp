@@ -23,7 +23,8 @@ int main(int argc, char *argv[])
         const QString output = QString::fromUtf8(process.readAllStandardOutput()).trimmed();
         // The search found foods, and the host read an empty result with its options kept.
         const bool found = finished && process.exitStatus() == QProcess::NormalExit &&
-                           process.exitCode() == 0 && output.contains(QStringLiteral("matching your search")) &&
+                           process.exitCode() == 0 &&
+                           output.contains(QStringLiteral("matching your search")) &&
                            (output.endsWith(QStringLiteral("result: 0 lines, 0 g, unit KE kept")) ||
                             output.endsWith(QStringLiteral("result: 0 lines, 0 g, unit BE")));
         std::printf("%s: %s\n", qPrintable(host), found ? qPrintable(output) : "FAILED");

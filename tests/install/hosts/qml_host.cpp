@@ -28,7 +28,8 @@ int main(int argc, char *argv[])
     const int status = QGuiApplication::exec();
     // What a bolus calculator would read; nothing was added, so nothing is counted.
     const QVariantMap result = view.rootObject()->property("mealResult").toMap();
-    std::printf("result: %lld lines, %g g, unit %s\n", static_cast<long long>(result.value(QStringLiteral("lines")).toList().size()),
+    std::printf("result: %lld lines, %g g, unit %s\n",
+                static_cast<long long>(result.value(QStringLiteral("lines")).toList().size()),
                 result.value(QStringLiteral("totalCarbohydrates")).toDouble(),
                 qPrintable(view.rootObject()->property("carbUnit").toString()));
     return status;

@@ -92,44 +92,48 @@ FocusScope {
                 }
             }
 
-            // After a removal, when the host offers it: the line can be put back for a few seconds.
-            Rectangle {
+            // After a removal, when the host offers it: the line can be put back for a few seconds. Built
+            // only then, so the calculator opens as fast without it.
+            Loader {
                 id: undoBar
-                objectName: "undoBar"
                 anchors.bottom: searchMore.top
                 anchors.left: parent.left
                 anchors.right: parent.right
                 anchors.margins: 10
-                visible: screen.uiView.undoText !== ""
+                active: screen.uiView.undoText !== ""
+                visible: active
                 height: 52
-                radius: 8
-                color: "#333333"
-                Accessible.role: Accessible.AlertMessage
-                Accessible.name: screen.uiView.undoText
+                sourceComponent: Rectangle {
+                    objectName: "undoBar"
+                    radius: 8
+                    color: "#333333"
+                    Accessible.role: Accessible.AlertMessage
+                    Accessible.name: screen.uiView.undoText
 
-                Text {
-                    anchors.left: parent.left
-                    anchors.right: undoButton.left
-                    anchors.verticalCenter: parent.verticalCenter
-                    anchors.leftMargin: 16
-                    text: screen.uiView.undoText
-                    elide: Text.ElideRight
-                    font.pixelSize: Look.bodySize
-                    color: "white"
-                }
-                ActionButton {
-                    id: undoButton
-                    objectName: "undoButton"
-                    anchors.right: parent.right
-                    anchors.verticalCenter: parent.verticalCenter
-                    anchors.rightMargin: 6
-                    implicitWidth: 88
-                    implicitHeight: 44
-                    text: qsTr("Undo")
-                    bold: true
-                    pixelSize: Look.bodySize
-                    textColor: "#8fd3ff"
-                    onClicked: screen.uiView.undoRemove()
+                    Text {
+                        anchors.left: parent.left
+                        anchors.right: undoButton.left
+                        anchors.verticalCenter: parent.verticalCenter
+                        anchors.leftMargin: 16
+                        text: screen.uiView.undoText
+                        elide: Text.ElideRight
+                        font.pixelSize: Look.bodySize
+                        color: "white"
+                    }
+                    ActionButton {
+                        id: undoButton
+                        objectName: "undoButton"
+                        anchors.right: parent.right
+                        anchors.verticalCenter: parent.verticalCenter
+                        anchors.rightMargin: 6
+                        implicitWidth: 88
+                        implicitHeight: 44
+                        text: qsTr("Undo")
+                        bold: true
+                        pixelSize: Look.bodySize
+                        textColor: "#8fd3ff"
+                        onClicked: screen.uiView.undoRemove()
+                    }
                 }
             }
 
