@@ -95,7 +95,8 @@ ScreenTestCase {
         // fibre, fat and protein for 118 g.
         const total = round1(2 * carbs)
         compare(lineAmounts(root), [grams(carbs) + " · " + inKE(carbs), grams(carbs) + " · " + inKE(carbs)])
-        compare(findChild(root, "totalAmount").text, grams(total) + " · " + inKE(total))
+        compare(findChild(root, "totalAmount").text, grams(total))
+        compare(findChild(root, "totalUnitAmount").text, inKE(total))
         const fibre = round1(mediumBananaHas("Fibre (AOAC)"))
         verify(fibre > 1)
         compare(lineNotes(root), ["net " + grams(carbs - fibre), "net " + grams(carbs - fibre)])
@@ -183,6 +184,7 @@ ScreenTestCase {
             verify(amount.endsWith(" g") && !amount.includes("·"), amount)
         verify(!lineNotes(root).some(note => note !== ""))
         compare(findChild(root, "totalNote").text, "")
+        compare(findChild(root, "totalUnitAmount").text, "")
         mouseClick(findChild(findChild(root, "lineList").itemAtIndex(0), "removeButton"))
         verify(findChild(root, "undoBar") === null)
         compare(root.mealResult.lines.length, 1)

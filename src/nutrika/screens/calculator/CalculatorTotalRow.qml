@@ -7,6 +7,8 @@ Rectangle {
     id: row
 
     property string amount: ""
+    // The same total in the host's carbohydrate unit, as large as the grams; "" in grams.
+    property string unitAmount: ""
     // The host's net carbohydrates and fat-protein units, one per line; "" when not asked for.
     property string note: ""
     property real rightInset: 16
@@ -15,7 +17,8 @@ Rectangle {
     implicitHeight: figures.implicitHeight + 32
     color: Look.detailColor
     Accessible.role: Accessible.StaticText
-    Accessible.name: qsTr("Total %1").arg(amount) + (note === "" ? "" : ", " + note.replace("\n", ", "))
+    Accessible.name: qsTr("Total %1").arg(amount) + (unitAmount === "" ? "" : ", " + unitAmount)
+                     + (note === "" ? "" : ", " + note.replace("\n", ", "))
 
     Text {
         anchors.left: parent.left
@@ -49,6 +52,18 @@ Rectangle {
             color: Look.titleText
         }
         Text {
+            objectName: "totalUnitAmount"
+            anchors.right: parent.right
+            width: Math.min(implicitWidth, 170)
+            visible: text !== ""
+            text: row.unitAmount
+            horizontalAlignment: Text.AlignRight
+            font: totalAmount.font
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: Look.bodySize
+            color: Look.titleText
+        }
+        Text {
             objectName: "totalNote"
             anchors.right: parent.right
             // Beside "Total", never over it.
@@ -57,7 +72,7 @@ Rectangle {
             text: row.note
             wrapMode: Text.Wrap
             horizontalAlignment: Text.AlignRight
-            font.pixelSize: Look.calloutSize
+            font.pixelSize: Look.calloutSize - 1
             color: Look.titleText
         }
     }

@@ -87,6 +87,7 @@ FocusScope {
                 footer: CalculatorTotalRow {
                     width: lineList.width
                     amount: screen.uiView.totalText
+                    unitAmount: screen.uiView.totalUnitText
                     note: screen.uiView.totalNote
                     rightInset: screen.amountsRightInset
                 }

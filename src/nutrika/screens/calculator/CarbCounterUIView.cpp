@@ -53,7 +53,12 @@ double CarbCounterUIView::calculateTotal() const
 
 QString CarbCounterUIView::totalText() const
 {
-    return HostSettings::shared()->carbohydrateText(calculateTotal());
+    return amountText(calculateTotal());
+}
+
+QString CarbCounterUIView::totalUnitText() const
+{
+    return carbUnitText(calculateTotal(), HostSettings::shared()->options().carbUnit);
 }
 
 QString CarbCounterUIView::totalNote() const

@@ -25,6 +25,8 @@ class CarbCounterUIView : public QObject
     /// The session's lines, in display order, each with its title and amount.
     Q_PROPERTY(nutrika::CalculatorLinesModel *lines READ lines CONSTANT)
     Q_PROPERTY(QString totalText READ totalText NOTIFY totalChanged)
+    /// The total in the host's carbohydrate unit ("13.6 KE"); "" in grams.
+    Q_PROPERTY(QString totalUnitText READ totalUnitText NOTIFY totalChanged)
     /// The host's extra figures for the total: net carbohydrates and fat-protein units, one per line of
     /// text; "" when the host asked for none.
     Q_PROPERTY(QString totalNote READ totalNote NOTIFY totalChanged)
@@ -59,6 +61,7 @@ public:
     [[nodiscard]] CalculatorLinesModel *lines() const { return m_lines; }
     [[nodiscard]] double calculateTotal() const;
     [[nodiscard]] QString totalText() const;
+    [[nodiscard]] QString totalUnitText() const;
     [[nodiscard]] QString totalNote() const;
     [[nodiscard]] QString undoText() const;
     [[nodiscard]] QString counterHeader() const;
