@@ -105,32 +105,31 @@ void HostSettings::setCarbUnitName(const QString &name)
     qWarning("Nutrika: \"%s\" is not a carbohydrate unit; use g, BE, KE or exchanges", qPrintable(name));
 }
 
-void HostSettings::setNetCarbohydrates(bool on)
+void HostSettings::setFlag(bool HostOptions::*flag, bool on)
 {
     HostOptions options = m_options;
-    options.netCarbohydrates = on;
+    options.*flag = on;
     setOptions(options);
+}
+
+void HostSettings::setNetCarbohydrates(bool on)
+{
+    setFlag(&HostOptions::netCarbohydrates, on);
 }
 
 void HostSettings::setFatProteinUnits(bool on)
 {
-    HostOptions options = m_options;
-    options.fatProteinUnits = on;
-    setOptions(options);
+    setFlag(&HostOptions::fatProteinUnits, on);
 }
 
 void HostSettings::setUndoRemoval(bool on)
 {
-    HostOptions options = m_options;
-    options.undoRemoval = on;
-    setOptions(options);
+    setFlag(&HostOptions::undoRemoval, on);
 }
 
 void HostSettings::setRecentFoods(bool on)
 {
-    HostOptions options = m_options;
-    options.recentFoods = on;
-    setOptions(options);
+    setFlag(&HostOptions::recentFoods, on);
 }
 
 QString HostSettings::carbohydrateText(double roundedGrams) const

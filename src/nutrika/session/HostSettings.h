@@ -62,6 +62,7 @@ signals:
 
 private:
     HostSettings() = default;
+    void setFlag(bool HostOptions::*flag, bool on);
     HostOptions m_options;
     QTranslator *m_translator = nullptr;
     QList<QPointer<QQmlEngine>> m_engines;
