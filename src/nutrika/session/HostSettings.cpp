@@ -1,7 +1,5 @@
 #include "HostSettings.h"
 
-#include "MealNutrients.h"
-
 #include <array>
 #include <memory>
 #include <QCoreApplication>
@@ -130,11 +128,6 @@ void HostSettings::setUndoRemoval(bool on)
 void HostSettings::setRecentFoods(bool on)
 {
     setFlag(&HostOptions::recentFoods, on);
-}
-
-QString HostSettings::carbohydrateText(double roundedGrams) const
-{
-    return nutrika::carbohydrateText(roundedGrams, m_options.carbUnit);
 }
 
 } // namespace nutrika

@@ -54,9 +54,6 @@ public:
     void applyLanguage();
     void addEngine(QQmlEngine *engine);
 
-    /// Rounded grams as the screens show them, with the chosen unit beside: "27 g · 2.7 KE".
-    [[nodiscard]] Q_INVOKABLE QString carbohydrateText(double roundedGrams) const;
-
 signals:
     void changed();
 

@@ -64,7 +64,9 @@ QString CalculatorLinesModel::lineAmount(const DiaryEntry &entry)
 {
     const bool complete = entry.type() == EntryType::Food ? entry.foodItem() && entry.hasTrackedNutrient()
                                                           : entry.recipeItem().has_value();
-    return complete ? HostSettings::shared()->carbohydrateText(entry.totalTrackedNutrient()) : QString();
+    return complete
+               ? carbohydrateText(entry.totalTrackedNutrient(), HostSettings::shared()->options().carbUnit)
+               : QString();
 }
 
 QString CalculatorLinesModel::lineNote(const DiaryEntry &entry)
